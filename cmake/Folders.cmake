@@ -1,0 +1,51 @@
+# A folder of the source tree is one library; its unit tests (*_test.cpp) and benchmarks (*_bench.cpp) stand beside the
+# source. A folder links only with the folders it is given, and sees no toolkit or map library unless it names one.
+
+# veldoria_folder(NAME [RECURSE] [QT] [LINKS ...] [PRIVATE_LINKS ...] [TEST_LINKS ...] [BENCH_LINKS ...])
+#   Library veldoria_<NAME> from the current folder's .cpp files (one level below too, with RECURSE), its tests as the
+#   program <NAME>_test, and its benchmarks as <NAME>_bench.
+function(veldoria_folder name)
+  cmake_parse_arguments(ARG "RECURSE;QT" "" "LINKS;PRIVATE_LINKS;TEST_LINKS;BENCH_LINKS" ${ARGN})
+  set(glob GLOB)
+  if(ARG_RECURSE)
+    set(glob GLOB_RECURSE)
+  endif()
+  file(${glob} sources CONFIGURE_DEPENDS "*.cpp")
+  file(${glob} tests CONFIGURE_DEPENDS "*_test.cpp")
+  file(${glob} benches CONFIGURE_DEPENDS "*_bench.cpp")
+  list(REMOVE_ITEM sources ${tests} ${benches})
+
+  set(library veldoria_${name})
+  if(sources)
+    add_library(${library} STATIC ${sources})
+    target_link_libraries(${library} PUBLIC ${ARG_LINKS} PRIVATE veldoria_options ${ARG_PRIVATE_LINKS})
+    target_include_directories(${library} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+    if(ARG_QT)
+      set_target_properties(${library} PROPERTIES AUTOMOC ON)
+    endif()
+  else()
+    add_library(${library} INTERFACE)
+    target_link_libraries(${library} INTERFACE ${ARG_LINKS})
+    target_include_directories(${library} INTERFACE "${CMAKE_SOURCE_DIR}/src")
+  endif()
+
+  if(tests)
+    add_executable(${name}_test ${tests})
+    target_link_libraries(${name}_test PRIVATE ${library} veldoria_options GTest::gtest GTest::gtest_main
+                                               ${ARG_TEST_LINKS})
+    add_test(NAME ${name}_test COMMAND ${name}_test)
+    set_tests_properties(${name}_test PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endif()
+  if(benches)
+    add_executable(${name}_bench ${benches})
+    target_link_libraries(${name}_bench PRIVATE ${library} veldoria_options benchmark::benchmark_main
+                                                ${ARG_BENCH_LINKS})
+  endif()
+endfunction()
+
+# veldoria_app(NAME LINKS <targets>): the program apps/NAME from apps/NAME/main.cpp.
+function(veldoria_app name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  add_executable(${name} ${name}/main.cpp)
+  target_link_libraries(${name} PRIVATE veldoria_options ${ARG_LINKS})
+endfunction()

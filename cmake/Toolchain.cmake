@@ -1,0 +1,24 @@
+# Language level, warnings and build-wide tools. Every target takes them through `veldoria_options`.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+option(VELDORIA_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VELDORIA_FUZZ "Build the fuzzers (clang only)" OFF)
+
+add_library(veldoria_options INTERFACE)
+target_compile_options(veldoria_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_include_directories(veldoria_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+if(VELDORIA_SANITIZE)
+  target_compile_options(veldoria_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                    -fno-omit-frame-pointer)
+  target_link_options(veldoria_options INTERFACE -fsanitize=address,undefined)
+endif()
