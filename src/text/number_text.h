@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Numbers as text and back, with "." as decimal sign whatever the locale.
+namespace text {
+
+// The shortest digits that read back as the same number; no exponent below 1e15, no trailing ".0"; -0 is "0".
+[[nodiscard]] std::string number(double value);
+[[nodiscard]] std::string number(std::int64_t value);
+
+// The number that `s` spells (blanks around it allowed, exponent allowed). Empty or blank is 0. Anything else fails with
+// 13 (type mismatch).
+[[nodiscard]] double toNumber(std::string_view s);
+
+// As toNumber, rounded half to even; outside the type's range fails with 6 (overflow).
+[[nodiscard]] std::int16_t toInt16(std::string_view s);
+[[nodiscard]] std::int32_t toInt32(std::string_view s);
+
+}  // namespace text
