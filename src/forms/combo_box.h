@@ -13,8 +13,8 @@ class DropDownList : public ItemList {
   void setText(const std::string& text);
 };
 
-// A drop-down combo whose text can be typed. Change is raised when it is typed into or its text is assigned something else;
-// picking an item or setting ListIndex raises only Click.
+// A drop-down combo whose text can be typed. Change is raised when it is typed into or its text is assigned something
+// else; picking an item or setting ListIndex raises only Click.
 class EditableCombo : public ItemList {
  public:
   using ItemList::ItemList;

@@ -69,13 +69,20 @@ std::int64_t Control::hWnd() const { return form_.listener().windowHandle(*this)
 std::string Control::describe(Property property) const {
   const auto logical = [](bool value) { return std::string(value ? "True" : "False"); };
   switch (property) {
-    case Property::Visible: return logical(base_.visible);
-    case Property::Enabled: return logical(base_.enabled);
-    case Property::Left: return text::number(base_.left);
-    case Property::Top: return text::number(base_.top);
-    case Property::Width: return text::number(base_.width);
-    case Property::Height: return text::number(base_.height);
-    default: return "";
+    case Property::Visible:
+      return logical(base_.visible);
+    case Property::Enabled:
+      return logical(base_.enabled);
+    case Property::Left:
+      return text::number(base_.left);
+    case Property::Top:
+      return text::number(base_.top);
+    case Property::Width:
+      return text::number(base_.width);
+    case Property::Height:
+      return text::number(base_.height);
+    default:
+      return "";
   }
 }
 

@@ -25,8 +25,8 @@ struct FontSpec {
 // A control of a form: where it stands, whether it is seen, and what the user may do to it. A control is a model: hosts
 // show it and tell it what the user does; programs write its properties.
 //
-// While its form is being defined (in the form's constructor) the setters store the values that the control has each time
-// the form is loaded: they raise nothing and tell nobody.
+// While its form is being defined (in the form's constructor) the setters store the values that the control has each
+// time the form is loaded: they raise nothing and tell nobody.
 class Control {
  public:
   Control(Form& form, std::string name);

@@ -7,8 +7,8 @@
 
 namespace forms {
 
-// A window. Its controls register themselves, back to front, and belong to whoever declares them (members of the derived
-// form). Load comes before Show; the first Show after a load raises Resize.
+// A window. Its controls register themselves, back to front, and belong to whoever declares them (members of the
+// derived form). Load comes before Show; the first Show after a load raises Resize.
 class Form : public Control {
  public:
   // `listener` outlives the form.

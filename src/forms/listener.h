@@ -19,7 +19,8 @@ class Listener {
  public:
   virtual ~Listener() = default;
 
-  virtual void formLoaded(Form& form) = 0;    // before the form's Load handler runs; its controls hold their stored values
+  virtual void formLoaded(
+      Form& form) = 0;  // before the form's Load handler runs; its controls hold their stored values
   virtual void formShown(Form& form) = 0;
   virtual void formHidden(Form& form) = 0;
   virtual void formUnloaded(Form& form) = 0;  // after the form's Unload handler has run

@@ -22,7 +22,8 @@ class OptionButton : public Captioned {
 
   Event<> Click;
   Event<> MouseUp;
-  // The user presses and releases the mouse button (or the key that stands for it) on it: chooses it, then raises MouseUp.
+  // The user presses and releases the mouse button (or the key that stands for it) on it: chooses it, then raises
+  // MouseUp.
   void userRelease();
 
  private:

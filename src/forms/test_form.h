@@ -32,7 +32,9 @@ class Log : public Listener {
   void nodeAdded(TreeView&, const Node& node) override { lines.push_back("node " + node.path() + " " + node.text()); }
   void nodeExpanded(TreeView&, const Node& node) override { lines.push_back("expanded " + node.path()); }
   void navigated(WebBrowser&, const std::string& path) override { lines.push_back("navigate " + path); }
-  std::int64_t windowHandle(const Control& control) override { return static_cast<std::int64_t>(control.name().size()); }
+  std::int64_t windowHandle(const Control& control) override {
+    return static_cast<std::int64_t>(control.name().size());
+  }
   std::string locationName(const WebBrowser&) override { return "Página"; }
 };
 

@@ -5,8 +5,8 @@
 
 #include "platform/variant.h"
 
-// The outside map engine, met by three operations only. All calls happen on the program's one thread; the engine may call
-// the callback object back while a call of ours, or the user's click on the map, is under way.
+// The outside map engine, met by three operations only. All calls happen on the program's one thread; the engine may
+// call the callback object back while a call of ours, or the user's click on the map, is under way.
 namespace platform {
 
 // The object whose methods the engine calls by name.

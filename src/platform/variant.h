@@ -10,9 +10,9 @@ namespace platform {
 class Variant {
  public:
   Variant() = default;
-  Variant(std::string text) : value_(std::move(text)) {}         // NOLINT(google-explicit-constructor)
-  Variant(const char* text) : value_(std::string(text)) {}       // NOLINT(google-explicit-constructor)
-  Variant(double number) : value_(number) {}                     // NOLINT(google-explicit-constructor)
+  Variant(std::string text) : value_(std::move(text)) {}    // NOLINT(google-explicit-constructor)
+  Variant(const char* text) : value_(std::string(text)) {}  // NOLINT(google-explicit-constructor)
+  Variant(double number) : value_(number) {}                // NOLINT(google-explicit-constructor)
 
   // The value as text: nothing is "", a number has "." and the shortest digits that read back the same.
   [[nodiscard]] std::string text() const;

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-// The Spanish order of names: letters first (á with a, ü with u, ñ a letter of its own after n), then accents, then case
-// (lower before upper). Digits come before letters and other signs before digits.
+// The Spanish order of names: letters first (á with a, ü with u, ñ a letter of its own after n), then accents, then
+// case (lower before upper). Digits come before letters and other signs before digits.
 namespace text {
 
 [[nodiscard]] std::strong_ordering collate(std::string_view a, std::string_view b);

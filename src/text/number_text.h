@@ -11,8 +11,8 @@ namespace text {
 [[nodiscard]] std::string number(double value);
 [[nodiscard]] std::string number(std::int64_t value);
 
-// The number that `s` spells (blanks around it allowed, exponent allowed). Empty or blank is 0. Anything else fails with
-// 13 (type mismatch).
+// The number that `s` spells (blanks around it allowed, exponent allowed). Empty or blank is 0. Anything else fails
+// with 13 (type mismatch).
 [[nodiscard]] double toNumber(std::string_view s);
 
 // As toNumber, rounded half to even; outside the type's range fails with 6 (overflow).

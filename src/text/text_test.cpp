@@ -48,9 +48,14 @@ TEST(Utf8, ComposesAndDropsAccents) {
 }
 
 TEST(NumberText, WritesShortestDigits) {
-  const std::pair<double, const char*> rows[] = {{0, "0"},         {-0.0, "0"},        {12.35, "12.35"},
-                                                 {300, "300"},     {-1.5, "-1.5"},     {0.1 + 0.2, "0.30000000000000004"},
-                                                 {1e14, "100000000000000"}, {1e22, "1e+22"}};
+  const std::pair<double, const char*> rows[] = {{0, "0"},
+                                                 {-0.0, "0"},
+                                                 {12.35, "12.35"},
+                                                 {300, "300"},
+                                                 {-1.5, "-1.5"},
+                                                 {0.1 + 0.2, "0.30000000000000004"},
+                                                 {1e14, "100000000000000"},
+                                                 {1e22, "1e+22"}};
   for (const auto& [value, expected] : rows) EXPECT_EQ(text::number(value), expected);
 }
 
@@ -84,9 +89,9 @@ TEST(NumberText, RoundsHalfToEvenAndOverflows) {
 }
 
 TEST(Collation, IsTheSpanishOrder) {
-  const std::vector<std::string> sorted = {"",     "-",    "1",    "a",     "A",      "á",   "Á",     "ab", "Ávila",
-                                           "Avis", "nube", "nz",   "ñame",  "Ñoño",   "oa",  "pingo", "pingue",
-                                           "pingüe", "pinguo", "z"};
+  const std::vector<std::string> sorted = {"",   "-",     "1",      "a",      "A",      "á",    "Á",
+                                           "ab", "Ávila", "Avis",   "nube",   "nz",     "ñame", "Ñoño",
+                                           "oa", "pingo", "pingue", "pingüe", "pinguo", "z"};
   std::vector<std::string> shuffled = sorted;
   std::shuffle(shuffled.begin(), shuffled.end(), std::mt19937(7));
   std::sort(shuffled.begin(), shuffled.end(), text::CollationLess());
