@@ -1,0 +1,1 @@
+veldoria_app(study LINKS veldoria_study)
