@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "motor/language/expression.h"
+#include "motor/language/operators.h"
+
+namespace motor {
+
+// `value In (a, b)`, `value = Any (a, b)`, `value <> All (a, b)`: a comparison with each of several values, written out
+// or given by a Select. In is "= Any", Not In is "<> All".
+class SetComparison final : public Expression {
+ public:
+  enum class Quantifier { any, all };
+
+  SetComparison(Position position, Operator op, Quantifier quantifier, ExpressionPtr value,
+                std::vector<ExpressionPtr> members, std::shared_ptr<const SelectStatement> select);
+
+  [[nodiscard]] Value evaluate(const Scope& scope) const override;
+  [[nodiscard]] std::vector<const Expression*> children() const override;
+
+ private:
+  [[nodiscard]] bool holds(const Value& left, const Value& member) const;
+
+  Operator op_;
+  Quantifier quantifier_;
+  ExpressionPtr value_;
+  std::vector<ExpressionPtr> members_;
+  std::shared_ptr<const SelectStatement> select_;
+};
+
+}  // namespace motor

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "motor/language/function_table.h"
+
+namespace motor {
+
+// FormatNumber$: the number's own digits with the thousands apart ("1234567.89" becomes "1.234.567,89"); no rounding.
+[[nodiscard]] std::string formatNumber(double value, const NumberSigns& signs);
+
+// Format$: a number in a pattern of # and 0 (digits), "." and "," (decimals, thousands), % (hundredths), E+ or E-
+// (exponent), \x (x itself) and ";" between the patterns of positive and negative numbers. Other characters stand for
+// themselves. Signs are always "." and ",": 12345.6789 in ",#.#" is "12,345.7".
+[[nodiscard]] std::string formatByPattern(double value, std::string_view pattern);
+
+}  // namespace motor

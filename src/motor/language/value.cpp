@@ -1,0 +1,14 @@
+#include "motor/language/value.h"
+
+#include "text/number_text.h"
+
+namespace motor {
+
+std::string Value::toText() const {
+  if (const bool* b = logical()) return *b ? "T" : "F";
+  if (const double* n = number()) return text::number(*n);
+  if (const std::string* s = text()) return *s;
+  return "";
+}
+
+}  // namespace motor
