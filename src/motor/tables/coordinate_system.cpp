@@ -1,0 +1,122 @@
+#include "motor/tables/coordinate_system.h"
+
+#include <cpl_conv.h>
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+
+#include "motor/language/error.h"
+#include "motor/tables/coord_sys_clause.h"
+#include "motor/tables/coordinate_definition.h"
+#include "motor/tables/ogr_errors.h"
+
+namespace motor {
+namespace {
+
+constexpr const char* kLongLatClause = "Earth Projection 1, 104";
+
+std::string takeText(char* text) {
+  const std::string result = text == nullptr ? "" : text;
+  CPLFree(text);
+  return result;
+}
+
+// "Transverse_Mercator" as a person reads it.
+std::string nameOf(const OGRSpatialReference& system) {
+  if (system.IsGeographic() != 0) return "Longitude / Latitude";
+  const char* projection = system.GetAttrValue("PROJECTION");
+  std::string name = projection == nullptr ? "Non-Earth" : projection;
+  std::replace(name.begin(), name.end(), '_', ' ');
+  return name;
+}
+
+}  // namespace
+
+// The definitions of the process, made once for each text they are asked for by and never thrown away.
+class DefinitionCache {
+ public:
+  using DefinitionPtr = std::shared_ptr<const CoordinateSystem::Definition>;
+
+  static DefinitionPtr fromClause(const std::string& clause) {
+    return cached("c" + clause, [&](OGRSpatialReference& system) {
+      const CoordSysClause parsed = parseCoordSysClause(clause);
+      std::string text = kLongLatClause;
+      if (parsed.kind == CoordSysClause::Kind::earth) text = parsed.projection;
+      if (parsed.kind == CoordSysClause::Kind::plain) {
+        static_cast<void>(metresPerDistanceUnit(parsed.unit));
+        text = "NonEarth Units \"" + parsed.unit + "\"";
+      }
+      return system.importFromMICoordSys(text.c_str());
+    });
+  }
+
+  static DefinitionPtr fromWkt(const std::string& wkt) {
+    if (wkt.empty()) return fromClause("NonEarth Units \"m\"");
+    return cached("w" + wkt, [&](OGRSpatialReference& system) { return system.importFromWkt(wkt.c_str()); });
+  }
+
+ private:
+  template <typename Import>
+  static DefinitionPtr cached(const std::string& text, Import import) {
+    static std::mutex mutex;
+    static std::map<std::string, DefinitionPtr> definitions;
+    const std::scoped_lock lock(mutex);
+    const auto found = definitions.find(text);
+    if (found != definitions.end()) return found->second;
+    OGRSpatialReference system;
+    const OgrErrors quiet;
+    if (import(system) != OGRERR_NONE) {
+      throw EngineError("No se entiende el sistema de coordenadas «" + text.substr(1) + "»");
+    }
+    const DefinitionPtr made = define(system);
+    definitions.emplace(text, made);
+    return made;
+  }
+
+  static std::shared_ptr<CoordinateSystem::Definition> define(const OGRSpatialReference& system) {
+    auto made = std::make_shared<CoordinateSystem::Definition>();
+    char* text = nullptr;
+    system.exportToWkt(&text);
+    made->wkt = takeText(text);
+    text = nullptr;
+    system.exportToMICoordSys(&text);
+    made->clause = takeText(text);
+    made->name = nameOf(system);
+    made->isLongLat = system.IsGeographic() != 0;
+    made->isEarth = system.IsLocal() == 0;
+    made->metresPerUnit = system.GetLinearUnits();
+    return made;
+  }
+};
+
+CoordinateSystem::CoordinateSystem() {
+  static const DefinitionCache::DefinitionPtr longLat = DefinitionCache::fromClause(kLongLatClause);
+  definition_ = longLat;
+}
+
+CoordinateSystem CoordinateSystem::fromClause(const std::string& clause) {
+  CoordinateSystem system;
+  system.definition_ = DefinitionCache::fromClause(clause);
+  return system;
+}
+
+CoordinateSystem CoordinateSystem::fromWkt(const std::string& wkt) {
+  CoordinateSystem system;
+  system.definition_ = DefinitionCache::fromWkt(wkt);
+  return system;
+}
+
+bool CoordinateSystem::isLongLat() const { return definition_->isLongLat; }
+bool CoordinateSystem::isEarth() const { return definition_->isEarth; }
+double CoordinateSystem::metresPerUnit() const { return definition_->metresPerUnit; }
+const std::string& CoordinateSystem::clause() const { return definition_->clause; }
+const std::string& CoordinateSystem::name() const { return definition_->name; }
+const std::string& CoordinateSystem::wkt() const { return definition_->wkt; }
+
+bool CoordinateSystem::operator==(const CoordinateSystem& other) const {
+  return definition_ == other.definition_ || definition_->key() == other.definition_->key();
+}
+
+}  // namespace motor

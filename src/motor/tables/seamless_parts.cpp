@@ -1,0 +1,88 @@
+#include "motor/tables/seamless_parts.h"
+
+#include <cpl_vsi.h>
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+#include <atomic>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+#include "motor/tables/read_failure.h"
+#include "platform/paths.h"
+#include "text/utf8.h"
+
+namespace motor {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string bytesOf(const fs::path& file) {
+  std::ifstream input(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(input), {}};
+}
+
+std::string utf8Of(const fs::path& path) {
+  const std::u8string s = path.u8string();
+  return {s.begin(), s.end()};
+}
+
+struct Definition {
+  std::string text;  // without what makes the table a seamless one
+  bool isSeamless = false;
+};
+
+Definition definitionOf(const fs::path& file) {
+  Definition definition;
+  std::istringstream lines(bytesOf(file));
+  std::string line;
+  while (std::getline(lines, line)) {
+    if (text::lower(line).find("\"\\isseamless\" = \"true\"") == std::string::npos) {
+      definition.text += line + "\n";
+    } else {
+      definition.isSeamless = true;
+    }
+  }
+  return definition;
+}
+
+// A file in memory under a name of its own.
+class MemoryFile {
+ public:
+  MemoryFile(std::string name, std::string bytes) : name_(std::move(name)), bytes_(std::move(bytes)) {
+    VSIFCloseL(VSIFileFromMemBuffer(name_.c_str(), reinterpret_cast<GByte*>(bytes_.data()), bytes_.size(), FALSE));
+  }
+  ~MemoryFile() { VSIUnlink(name_.c_str()); }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+
+ private:
+  std::string name_;
+  std::string bytes_;
+};
+
+}  // namespace
+
+// The list of parts is a table like any other, whose first column names them; it is read as such from a copy in memory.
+std::vector<fs::path> seamlessParts(const fs::path& file) {
+  if (text::lower(utf8Of(file.extension())) != ".tab") return {};
+  const Definition definition = definitionOf(file);
+  if (!definition.isSeamless) return {};
+  const fs::path data = platform::machinePath(utf8Of(fs::path(file).replace_extension(".dat")));
+  static std::atomic<int> copies = 0;
+  const std::string name = "/vsimem/seamless_" + std::to_string(++copies);
+  const MemoryFile tabCopy(name + ".tab", definition.text);
+  const MemoryFile dataCopy(name + ".dat", bytesOf(data));
+  const GDALDatasetUniquePtr dataset(GDALDataset::Open((name + ".tab").c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY));
+  if (!dataset || dataset->GetLayer(0)->GetLayerDefn()->GetFieldCount() == 0) failDamaged(file);
+  std::vector<fs::path> parts;
+  while (const OGRFeatureUniquePtr row{dataset->GetLayer(0)->GetNextFeature()}) {
+    parts.push_back(platform::machinePath(utf8Of(file.parent_path()) + "/" + row->GetFieldAsString(0)));
+  }
+  if (parts.empty()) failDamaged(file);
+  return parts;
+}
+
+}  // namespace motor

@@ -1,0 +1,185 @@
+#include "motor/tables/select_scope.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "motor/language/expressions/aggregate.h"
+#include "motor/language/expressions/column_by_number.h"
+#include "motor/tables/select_relation.h"
+#include "text/utf8.h"
+
+namespace motor {
+
+namespace {
+
+bool isObjectName(const std::string& name) {
+  return text::equalsIgnoringCase(name, "obj") || text::equalsIgnoringCase(name, "object");
+}
+
+}  // namespace
+
+SelectScope::SelectScope(const std::vector<SelectTable>& tables, const SelectContext& context)
+    : tables_(tables), context_(context), rows_(tables.size(), 1) {}
+
+std::optional<std::size_t> SelectScope::findTable(const std::string& name) const {
+  for (std::size_t i = 0; i < tables_.size(); ++i) {
+    if (text::equalsIgnoringCase(tables_[i].name, name)) return i;
+  }
+  return std::nullopt;
+}
+
+RowBinding SelectScope::bindIn(std::size_t table, const NameReference& reference) const {
+  if (const auto column = tables_[table].table->findColumn(reference.name())) {
+    return {RowBinding::Kind::column, table, *column};
+  }
+  if (isObjectName(reference.name())) return {RowBinding::Kind::object, table, 0};
+  if (text::equalsIgnoringCase(reference.name(), "rowid")) return {RowBinding::Kind::rowId, table, 0};
+  return {};
+}
+
+RowBinding SelectScope::bind(const NameReference& reference) const {
+  if (!reference.table().empty()) {
+    const auto table = findTable(reference.table());
+    if (!table) return {};
+    const RowBinding binding = bindIn(*table, reference);
+    if (binding.kind != RowBinding::Kind::outside) return binding;
+    throw LanguageError(reference.position(), reference.text(), "la tabla no tiene esa columna");
+  }
+  for (std::size_t table = 0; table < tables_.size(); ++table) {
+    const RowBinding binding = bindIn(table, reference);
+    if (binding.kind != RowBinding::Kind::outside) return binding;
+  }
+  return {};
+}
+
+const RowBinding& SelectScope::bound(const NameReference& reference) const {
+  const auto known = bindings_.find(&reference);
+  return known != bindings_.end() ? known->second : bindings_.emplace(&reference, bind(reference)).first->second;
+}
+
+bool SelectScope::isConstant(const Expression& expression) const { return tablesOf(expression) == 0; }
+
+std::uint64_t SelectScope::tablesOf(const Expression& expression) const {
+  std::uint64_t used = 0;
+  if (const auto* reference = dynamic_cast<const NameReference*>(&expression)) {
+    const RowBinding& binding = bound(*reference);
+    if (binding.kind != RowBinding::Kind::outside) used |= std::uint64_t{1} << binding.table;
+  } else if (const auto* byNumber = dynamic_cast<const ColumnByNumber*>(&expression)) {
+    const auto table = byNumber->table().empty() ? std::optional<std::size_t>(0) : findTable(byNumber->table());
+    if (table) used |= std::uint64_t{1} << *table;
+  } else if (dynamic_cast<const Aggregate*>(&expression) != nullptr) {
+    used |= 1;
+  }
+  for (const Expression* child : expression.children()) used |= tablesOf(*child);
+  return used;
+}
+
+void SelectScope::setGroup(const std::vector<RowTuple>* group) {
+  group_ = group;
+  if (group != nullptr && !group->empty()) rows_ = group->front();
+}
+
+Value SelectScope::name(const NameReference& reference) const {
+  const RowBinding& binding = bound(reference);
+  if (binding.kind == RowBinding::Kind::outside) return context_.session.name(reference);
+  const RowId row = rows_[binding.table];
+  const Table& table = *tables_[binding.table].table;
+  switch (binding.kind) {
+    case RowBinding::Kind::column:
+      return table.value(row, binding.column);
+    case RowBinding::Kind::object:
+      return objectInSession(binding.table, table.object(row));
+    default:
+      return static_cast<double>(row);
+  }
+}
+
+Value SelectScope::column(const std::string& table, double number, Position position) const {
+  const auto index = table.empty() ? std::optional<std::size_t>(0) : findTable(table);
+  if (!index) return context_.session.column(table, number, position);
+  const Table& source = *tables_[*index].table;
+  if (!(number >= 1 && number <= static_cast<double>(source.columns().size())) || std::floor(number) != number) {
+    throw LanguageError(position, "col", "la tabla no tiene esa columna");
+  }
+  return source.value(rows_[*index], static_cast<std::size_t>(number) - 1);
+}
+
+Value SelectScope::call(const FunctionCall& function, std::span<const Value> arguments) const {
+  return context_.session.call(function, arguments);
+}
+
+bool SelectScope::related(SpatialRelation relation, const ObjectPtr& left, const ObjectPtr& right,
+                          Position /*position*/) const {
+  return motor::related(relation, *left, *right);
+}
+
+double SelectScope::numberAt(const ExpressionPtr& expression, const RowTuple& tuple, bool& present) const {
+  rows_ = tuple;
+  const Value value = expression->evaluate(*this);
+  present = !value.isEmpty();
+  if (present && value.number() == nullptr) {
+    throw LanguageError(expression->position(), "función de grupo", "se esperaba un número");
+  }
+  return present ? *value.number() : 0;
+}
+
+Value SelectScope::aggregate(const Aggregate& aggregate) const {
+  if (group_ == nullptr) return Scope::aggregate(aggregate);
+  if (aggregate.kind() == Aggregate::Kind::count) return static_cast<double>(group_->size());
+  double total = 0;
+  double weights = 0;
+  double least = std::numeric_limits<double>::infinity();
+  double greatest = -least;
+  for (const RowTuple& tuple : *group_) {
+    bool present = false;
+    const double number = numberAt(aggregate.value(), tuple, present);
+    if (!present) continue;
+    const double weight = aggregate.weight() ? numberAt(aggregate.weight(), tuple, present) : 1;
+    total += number * weight;
+    weights += weight;
+    least = std::min(least, number);
+    greatest = std::max(greatest, number);
+  }
+  rows_ = group_->front();
+  if (greatest < least) return aggregate.kind() == Aggregate::Kind::sum ? Value(0) : Value();
+  switch (aggregate.kind()) {
+    case Aggregate::Kind::sum:
+      return total;
+    case Aggregate::Kind::minimum:
+      return least;
+    case Aggregate::Kind::maximum:
+      return greatest;
+    default:
+      return weights == 0 ? Value() : Value(total / weights);
+  }
+}
+
+const std::vector<Value>& SelectScope::values(const SelectStatement& statement) const {
+  const auto known = subselects_.find(&statement);
+  if (known != subselects_.end()) return known->second;
+  const ResultPtr result = select(statement, context_);
+  if (result->columns().empty()) throw LanguageError(statement.position, "Select", "se esperaba una columna");
+  std::vector<Value> values;
+  values.reserve(result->rowCount());
+  for (RowId row = 1; row <= result->rowCount(); ++row) values.push_back(result->value(row, 0));
+  return subselects_.emplace(&statement, std::move(values)).first->second;
+}
+
+ObjectPtr SelectScope::objectInSession(std::size_t table, const ObjectPtr& object) const {
+  const CoordinateSystem& system = tables_[table].table->coordinateSystem();
+  if (!object || system == context_.coordinateSystem) return object;
+  ObjectPtr& image = transformed_[object.get()];
+  if (!image) image = transformed(*object, Transformation(system, context_.coordinateSystem));
+  return image;
+}
+
+ObjectPtr transformed(const MapObject& object, const Transformation& transformation) {
+  auto image = std::make_shared<MapObject>(object);
+  transformation.apply(image->points);
+  image->bounds = {};
+  for (const Point& p : image->points) image->bounds.add(p);
+  return image;
+}
+
+}  // namespace motor

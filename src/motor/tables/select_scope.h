@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "motor/language/expressions/name_reference.h"
+#include "motor/tables/base_table.h"
+#include "motor/tables/select.h"
+
+namespace motor {
+
+// A table that a Select reads.
+struct SelectTable {
+  std::string name;
+  TablePtr table;
+  const BaseTable* base = nullptr;      // the same table, if it has the indexes of one
+  const ResultTable* result = nullptr;  // the same table, if it is itself a result
+};
+
+// What a name means in a Select.
+struct RowBinding {
+  enum class Kind { column, object, rowId, outside };
+
+  Kind kind = Kind::outside;
+  std::size_t table = 0;
+  std::size_t column = 0;
+};
+
+// The rows of a Select's tables taken together, one row of each; by table.
+using RowTuple = std::vector<RowId>;
+
+// Names and functions inside a Select: columns of the current rows first, then whatever the session knows.
+class SelectScope final : public Scope {
+ public:
+  // The tables must outlive the scope.
+  SelectScope(const std::vector<SelectTable>& tables, const SelectContext& context);
+
+  // Throws LanguageError for a column that its table does not have.
+  [[nodiscard]] RowBinding bind(const NameReference& reference) const;
+  // Whether an expression has the same value for all rows.
+  [[nodiscard]] bool isConstant(const Expression& expression) const;
+  // The tables whose rows an expression reads, bit i for table i.
+  [[nodiscard]] std::uint64_t tablesOf(const Expression& expression) const;
+
+  // The rows that names refer to from now on, also one of them alone.
+  void setRow(std::size_t table, RowId row) { rows_[table] = row; }
+  // The rows that aggregates run over, as tuples; names refer to the first of them.
+  void setGroup(const std::vector<RowTuple>* group);
+
+  [[nodiscard]] const std::vector<SelectTable>& tables() const { return tables_; }
+  [[nodiscard]] const SelectContext& context() const { return context_; }
+
+  [[nodiscard]] Value name(const NameReference& reference) const override;
+  [[nodiscard]] Value column(const std::string& table, double number, Position position) const override;
+  [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const override;
+  [[nodiscard]] bool related(SpatialRelation relation, const ObjectPtr& left, const ObjectPtr& right,
+                             Position position) const override;
+  [[nodiscard]] Value aggregate(const Aggregate& aggregate) const override;
+  [[nodiscard]] const std::vector<Value>& values(const SelectStatement& select) const override;
+
+ private:
+  [[nodiscard]] std::optional<std::size_t> findTable(const std::string& name) const;
+  [[nodiscard]] RowBinding bindIn(std::size_t table, const NameReference& reference) const;
+  [[nodiscard]] const RowBinding& bound(const NameReference& reference) const;
+  [[nodiscard]] ObjectPtr objectInSession(std::size_t table, const ObjectPtr& object) const;
+  [[nodiscard]] double numberAt(const ExpressionPtr& expression, const RowTuple& tuple, bool& present) const;
+
+  const std::vector<SelectTable>& tables_;
+  SelectContext context_;
+  mutable RowTuple rows_;
+  const std::vector<RowTuple>* group_ = nullptr;
+  mutable std::unordered_map<const NameReference*, RowBinding> bindings_;
+  mutable std::unordered_map<const MapObject*, ObjectPtr> transformed_;
+  mutable std::unordered_map<const SelectStatement*, std::vector<Value>> subselects_;
+};
+
+// An object with its points in another system.
+[[nodiscard]] ObjectPtr transformed(const MapObject& object, const Transformation& transformation);
+
+}  // namespace motor

@@ -1,0 +1,66 @@
+#include "motor/tables/table_store.h"
+
+#include <array>
+
+#include "motor/language/error.h"
+#include "platform/paths.h"
+
+namespace motor {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The files that make up a table besides its own.
+constexpr std::array kCompanions = {".dat", ".dbf", ".map", ".id", ".mid"};
+
+std::vector<fs::path> filesOf(const fs::path& file) {
+  std::vector<fs::path> files{file};
+  for (const char* extension : kCompanions) {
+    const std::u8string name = fs::path(file).replace_extension(extension).u8string();
+    fs::path companion = platform::machinePath(std::string(name.begin(), name.end()));
+    if (companion != file) files.push_back(std::move(companion));
+  }
+  return files;
+}
+
+}  // namespace
+
+TableStore& TableStore::shared() {
+  static TableStore store;
+  return store;
+}
+
+std::shared_ptr<const BaseTable> TableStore::open(const fs::path& file) {
+  std::error_code error;
+  fs::path key = fs::canonical(file, error);
+  if (error) key = file;
+  const std::scoped_lock lock(mutex_);
+  if (const auto known = entries_.find(key); known != entries_.end()) {
+    if (stampsOf(known->second.files) == known->second.stamps) return known->second.table;
+    entries_.erase(known);
+  }
+  Entry entry;
+  entry.files = filesOf(key);
+  entry.stamps = stampsOf(entry.files);
+  entry.table = BaseTable::read(key);
+  return entries_.emplace(std::move(key), std::move(entry)).first->second.table;
+}
+
+void TableStore::clear() {
+  const std::scoped_lock lock(mutex_);
+  std::erase_if(entries_, [](const auto& entry) { return entry.second.table.use_count() == 1; });
+}
+
+std::vector<TableStore::Stamp> TableStore::stampsOf(const std::vector<fs::path>& files) {
+  std::vector<Stamp> stamps;
+  for (const fs::path& file : files) {
+    std::error_code ignored;
+    Stamp stamp;
+    stamp.size = fs::file_size(file, ignored);
+    stamp.time = fs::last_write_time(file, ignored);
+    stamps.push_back(stamp);
+  }
+  return stamps;
+}
+
+}  // namespace motor

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include "motor/tables/base_table.h"
+
+namespace motor {
+
+// The tables of the process, each read once and shared read-only between sessions. A file that has changed (size or
+// time, its own or that of the files beside it) is read again. A table nobody holds any more is kept for the next
+// session.
+class TableStore {
+ public:
+  static TableStore& shared();
+
+  // The table in a TAB or MIF file (machine path). Throws EngineError with a clear message when it cannot be read.
+  [[nodiscard]] std::shared_ptr<const BaseTable> open(const std::filesystem::path& file);
+
+  // Forgets everything that nobody holds.
+  void clear();
+
+ private:
+  // Size and time of one file; equal for a file that has not changed.
+  struct Stamp {
+    std::uintmax_t size = 0;
+    std::filesystem::file_time_type time;
+    bool operator==(const Stamp&) const = default;
+  };
+  struct Entry {
+    std::vector<Stamp> stamps;
+    std::vector<std::filesystem::path> files;
+    std::shared_ptr<const BaseTable> table;
+  };
+
+  [[nodiscard]] static std::vector<Stamp> stampsOf(const std::vector<std::filesystem::path>& files);
+
+  std::mutex mutex_;
+  std::map<std::filesystem::path, Entry> entries_;  // by canonical path
+};
+
+}  // namespace motor
