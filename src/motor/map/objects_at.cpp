@@ -1,0 +1,64 @@
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "motor/map/map.h"
+#include "motor/map/projected_objects.h"
+
+namespace motor {
+namespace {
+
+double distanceToSegment(Point a, Point b, Point p) {
+  const double dx = b.x - a.x;
+  const double dy = b.y - a.y;
+  const double square = dx * dx + dy * dy;
+  const double along = square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0;
+  return std::hypot(a.x + along * dx - p.x, a.y + along * dy - p.y);
+}
+
+bool isLineNear(const MapObject& line, Point p, double tolerance) {
+  for (std::size_t part = 0; part < line.partCount(); ++part) {
+    for (std::size_t i = line.parts[part]; i + 1 < line.partEnd(part); ++i) {
+      if (distanceToSegment(line.points[i], line.points[i + 1], p) <= tolerance) return true;
+    }
+  }
+  return false;
+}
+
+bool isHit(const MapObject& object, Point p, double tolerance) {
+  switch (object.kind) {
+    case MapObject::Kind::region:
+      return contains(object, p);
+    case MapObject::Kind::polyline:
+      return isLineNear(object, p, tolerance);
+    case MapObject::Kind::point:
+      return std::any_of(object.points.begin(), object.points.end(),
+                         [&](Point q) { return std::hypot(q.x - p.x, q.y - p.y) <= tolerance; });
+    case MapObject::Kind::text:
+      return object.bounds.contains(p);
+  }
+  return false;
+}
+
+}  // namespace
+
+std::vector<Hit> objectsAt(const Map& map, Point p, double tolerancePixels) {
+  std::vector<Hit> hits;
+  const double tolerance = tolerancePixels * map.unitsPerPixel();
+  const Box around{p.x - tolerance, p.y - tolerance, p.x + tolerance, p.y + tolerance};
+  std::map<const Table*, Display> searched;
+  for (std::size_t i = 0; i < map.layers.size(); ++i) {
+    const Layer& layer = map.layers[i];
+    if (!layer.table || !layer.selectable || !layer.isDrawnAt(map.zoomMetres)) continue;
+    // A theme and the layer that it shades are the same objects.
+    const auto [earlier, isFirst] = searched.try_emplace(layer.table.get(), layer.display);
+    if (!isFirst && (earlier->second == Display::value || layer.display == Display::value)) continue;
+    const std::shared_ptr<const ObjectSet> set = projectedObjects(layer.table, map.coordinateSystem);
+    for (const std::uint32_t index : set->objectsIn(around)) {
+      if (isHit(*set->objects()[index], p, tolerance)) hits.push_back({i, set->rowsOf(index).front()});
+    }
+  }
+  return hits;
+}
+
+}  // namespace motor
