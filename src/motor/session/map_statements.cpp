@@ -1,0 +1,134 @@
+#include <cmath>
+
+#include "motor/session/coord_sys.h"
+#include "motor/session/executors.h"
+#include "motor/session/layer_settings.h"
+#include "motor/session/map_layers.h"
+#include "motor/session/map_view.h"
+#include "motor/session/session_state.h"
+#include "motor/session/window_shape.h"
+#include "text/utf8.h"
+
+namespace motor {
+namespace {
+
+constexpr double kStartingZoom = 1e6;  // metres, of a map without objects
+
+// The layer of a table named in a statement; Selection stands for the name its rows keep.
+Layer newLayer(SessionState& session, const Name& table) {
+  Layer layer = layerFor(session.tables.at(table.text));
+  if (text::equalsIgnoringCase(table.text, "Selection")) layer.name = session.tables.nameOfSelection();
+  return layer;
+}
+
+void setZoom(Map& map, const ZoomClause& clause, const std::string& unit, const SessionState& session) {
+  if (const auto* entire = std::get_if<ZoomEntire>(&clause)) {
+    entire->layer ? showEntire(map, layerOf(map, *entire->layer, session)) : showEntire(map);
+    return;
+  }
+  double metres = 0;
+  ExpressionPtr at;
+  if (const auto* width = std::get_if<Measure>(&clause)) {
+    at = width->value;
+    metres = session.number(width->value) * metresPerDistanceUnit(width->unit.empty() ? unit : width->unit);
+  } else {
+    const auto& scale = std::get<ScaleClause>(clause);
+    at = scale.ground.value;
+    const double inches = session.number(scale.screen.value) /
+                          paperUnitsPerInch(scale.screen.unit.empty() ? session.paperUnit : scale.screen.unit);
+    const double ground = session.number(scale.ground.value) *
+                          metresPerDistanceUnit(scale.ground.unit.empty() ? unit : scale.ground.unit);
+    metres = map.pixelWidth / kPixelsPerInch * ground / inches;
+  }
+  if (!(metres > 0 && std::isfinite(metres)))
+    throw LanguageError(at->position(), Value(session.number(at)).toText(), "la anchura del mapa ha de ser positiva");
+  map.zoomMetres = metres;
+}
+
+void setCentre(Map& map, const CoordinatePair& centre, const CoordinateSystem& from, const SessionState& session) {
+  const Point point = Transformation(from, map.coordinateSystem)(session.point(centre));
+  if (!std::isfinite(point.x) || !std::isfinite(point.y))
+    throw LanguageError(centre.position, "center", "el punto no existe en la proyección del mapa");
+  map.centre = point;
+}
+
+void setCoordinateSystem(Map& map, const CoordinateSystem& system) {
+  const Point centre = Transformation(map.coordinateSystem, system)(map.centre);
+  if (std::isfinite(centre.x) && std::isfinite(centre.y)) map.centre = centre;
+  map.coordinateSystem = system;
+}
+
+void setProperties(MapWindowProperties& properties, const SetMap& statement) {
+  if (!statement.distanceUnit.empty()) {
+    [[maybe_unused]] const double known = metresPerDistanceUnit(statement.distanceUnit);
+    properties.distanceUnit = statement.distanceUnit;
+  }
+  if (!statement.areaUnit.empty()) properties.areaUnit = statement.areaUnit;
+  if (!statement.xyUnit.empty()) properties.xyUnit = statement.xyUnit;
+  if (statement.status) properties.status = static_cast<MapWindowProperties::Status>(*statement.status);
+}
+
+}  // namespace
+
+void execute(SessionState& session, const MapFrom& statement) {
+  Map map;
+  for (const Name& table : statement.tables) map.layers.push_back(newLayer(session, table));
+  map.coordinateSystem = map.layers.front().table->coordinateSystem();
+  map.zoomMetres = kStartingZoom;
+  MapWindow& window = session.openWindow(std::move(map));
+  setShape(session, window, statement.shape);
+  showEntire(window.map());
+  window.changed();
+}
+
+void execute(SessionState& session, const SetMap& statement) {
+  MapWindow& window = session.windowOrFront(statement.window);
+  Map map = window.map();
+  MapWindowProperties properties = window.properties();
+  setProperties(properties, statement);
+  const CoordinateSystem clauseSystem =
+      statement.coordSys ? coordinateSystemOf(*statement.coordSys, session) : session.coordinateSystem;
+  if (statement.coordSys) setCoordinateSystem(map, clauseSystem);
+  if (!statement.order.empty()) {
+    std::vector<int> numbers;
+    for (const ExpressionPtr& number : statement.order) numbers.push_back(session.integer(number));
+    orderLayers(map, numbers);
+  }
+  if (statement.center) setCentre(map, *statement.center, clauseSystem, session);
+  if (statement.zoom) setZoom(map, *statement.zoom, properties.distanceUnit, session);
+  for (const LayerChange& layer : statement.layers)
+    change(layerOf(map, layer.layer, session), layer, properties.distanceUnit, session);
+  window.map() = std::move(map);
+  window.properties() = std::move(properties);
+  window.changed();
+}
+
+void execute(SessionState& session, const AddMapLayer& statement) {
+  MapWindow& window = session.windowOrFront(statement.window);
+  Map map = window.map();
+  std::size_t onTop = 0;
+  for (const Name& table : statement.tables) {
+    Layer layer = newLayer(session, table);
+    if (statement.automatic) {
+      insertByKind(map, std::move(layer));
+    } else {
+      map.layers.insert(map.layers.begin() + static_cast<std::ptrdiff_t>(onTop++), std::move(layer));
+    }
+  }
+  window.map() = std::move(map);
+  window.changed();
+}
+
+void execute(SessionState& session, const RemoveMapLayer& statement) {
+  MapWindow& window = session.windowOrFront(statement.window);
+  std::vector<std::size_t> indexes;
+  for (const LayerReference& layer : statement.layers) indexes.push_back(layerIndexOf(window.map(), layer, session));
+  removeLayers(window.map(), std::move(indexes));
+  if (window.map().layers.empty()) {
+    session.closeWindow(window);
+  } else {
+    window.changed();
+  }
+}
+
+}  // namespace motor

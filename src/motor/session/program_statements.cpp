@@ -1,0 +1,120 @@
+#include <fstream>
+#include <iterator>
+
+#include "motor/language/parser.h"
+#include "motor/language/workspace.h"
+#include "motor/session/coord_sys.h"
+#include "motor/session/executors.h"
+#include "motor/session/map_view.h"
+#include "motor/session/path_text.h"
+#include "motor/session/session_state.h"
+#include "platform/paths.h"
+#include "text/utf8.h"
+
+namespace motor {
+namespace {
+
+std::string contentsOf(const std::filesystem::path& file, const std::string& written) {
+  std::error_code failed;
+  std::ifstream in(file, std::ios::binary);
+  if (!in || !std::filesystem::is_regular_file(file, failed))
+    throw EngineError("«" + written + "»: no se puede leer el archivo");
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// Runs a workspace; errors say in which file they are.
+void runWorkspace(SessionState& session, const std::filesystem::path& file, const std::string& written) {
+  const std::string bytes = contentsOf(file, written);
+  struct Inside {
+    std::vector<std::filesystem::path>& folders;
+    Inside(std::vector<std::filesystem::path>& f, std::filesystem::path folder) : folders(f) {
+      folders.push_back(std::move(folder));
+    }
+    ~Inside() { folders.pop_back(); }
+  } const inside(session.workspaceFolders, file.parent_path());
+  try {
+    session.run(parseWorkspace(bytes).statements);
+  } catch (const LanguageError& e) {
+    throw EngineError(textOf(file.filename()) + ": " + e.what());
+  } catch (const EngineError& e) {
+    throw EngineError(textOf(file.filename()) + ": " + e.what());
+  }
+}
+
+Value initialValue(const std::string& type) {
+  if (type == "string") return "";
+  if (type == "logical") return false;
+  return 0;
+}
+
+}  // namespace
+
+void execute(SessionState& session, const RunApplication& statement) {
+  const std::string written = session.text(statement.file);
+  const std::filesystem::path file = session.workspaceFolders.empty()
+                                         ? platform::machinePath(written)
+                                         : session.files.workspace(written, session.workspaceFolders.back());
+  runWorkspace(session, file, written);
+}
+
+void execute(SessionState& session, const RunCommand& statement) {
+  session.run(parseProgram(session.text(statement.text)));
+}
+
+void execute(SessionState& session, const EndSession& /*statement*/) {
+  session.closeAllWindows();
+  session.ended = true;
+}
+
+void execute(SessionState& session, const SetCoordSys& statement) {
+  session.coordinateSystem = coordinateSystemOf(statement.coordSys, session);
+}
+
+void execute(SessionState& session, const SetUnits& statement) {
+  const std::string unit = session.text(statement.unit);
+  switch (statement.kind) {
+    case SetUnits::Kind::distance: {
+      [[maybe_unused]] const double known = metresPerDistanceUnit(unit);
+      session.distanceUnit = unit;
+      return;
+    }
+    case SetUnits::Kind::paper: {
+      [[maybe_unused]] const double known = paperUnitsPerInch(unit);
+      session.paperUnit = unit;
+      return;
+    }
+    case SetUnits::Kind::area:
+      return;  // no function tells areas
+  }
+}
+
+void execute(SessionState& session, const SetFormat& statement) {
+  if (statement.kind == SetFormat::Kind::date) return;  // dates are told as they stand in the tables
+  const bool local = text::equalsIgnoringCase(session.text(statement.format), "Local");
+  session.useNumberSigns(local ? NumberSigns{session.options.decimalSign, session.options.thousandsSign}
+                               : NumberSigns{".", ","});
+}
+
+void execute(SessionState& session, const Dim& statement) {
+  for (const Dim::Variable& variable : statement.variables)
+    session.variables.insert_or_assign(text::lower(variable.name.text), initialValue(variable.type));
+}
+
+void execute(SessionState& session, const Undim& statement) {
+  for (const Name& name : statement.names) session.variables.erase(text::lower(name.text));
+}
+
+void execute(SessionState& session, const Assignment& statement) {
+  const auto variable = session.variables.find(text::lower(statement.name.text));
+  if (variable == session.variables.end())
+    throw LanguageError(statement.name.position, statement.name.text, "la variable no está declarada");
+  variable->second = statement.value->evaluate(session.scope);
+}
+
+void execute(SessionState& /*session*/, const PassedOver& /*statement*/) {}
+
+void execute(SessionState& /*session*/, const Refused& statement) {
+  throw LanguageError(statement.position, statement.name, "no se permite: los datos solo se leen");
+}
+
+}  // namespace motor

@@ -1,0 +1,359 @@
+#include "motor/session/session.h"
+
+#include "motor/session/session_fixture.h"
+
+namespace motor {
+namespace {
+
+// After a year's workspace is open: statements, each run by itself; then what an expression gives.
+struct Case {
+  std::vector<std::string> statements;
+  std::string expression;
+  std::string expected;
+};
+
+void PrintTo(const Case& c, std::ostream* out) {
+  for (const std::string& s : c.statements) *out << s << "; ";
+  *out << c.expression;
+}
+
+class SessionConformance : public SessionTest, public testing::WithParamInterface<Case> {};
+
+TEST_P(SessionConformance, gives) {
+  openYear();
+  run("Set Distance Units \"km\"");
+  for (const std::string& statement : GetParam().statements) {
+    ASSERT_EQ(rejectedRun(statement), "accepted") << statement;
+  }
+  EXPECT_EQ(eval(GetParam().expression), GetParam().expected);
+}
+
+const std::string kAvalos = "select * from Provincias2001 where nombre=\"Ávalos\"";
+
+INSTANTIATE_TEST_SUITE_P(
+    Workspace, SessionConformance,
+    testing::Values(Case{{}, "numtables()", "3"}, Case{{}, "numwindows()", "1"},
+                    Case{{}, "tableinfo(1,1)", "Provincias2001"}, Case{{}, "TableInfo(ZonasBasicas2001,4)", "7"},
+                    Case{{}, "tableinfo(Provincias2001,8)", "36"}, Case{{}, "tableinfo(0,1)", "Veldoria2001"},
+                    Case{{}, "TableInfo(2,2)", "2"}, Case{{}, "tableinfo(1,3)", "1"}, Case{{}, "tableinfo(1,5)", "T"},
+                    Case{{}, "tableinfo(1,7)", "F"}, Case{{}, "tableinfo(1,20)", "-6"},
+                    Case{{}, "tableinfo(1,23)", "43"}, Case{{}, "layerinfo(frontwindow(),1,1)", "Provincias2001"},
+                    Case{{}, "layerinfo(frontwindow(),2,1)", "ZonasBasicas2001"},
+                    Case{{}, "layerinfo(frontwindow(),1,9)", "2"}, Case{{}, "Layerinfo(frontwindow(),3,9)", "0"},
+                    Case{{}, "layerinfo(frontwindow(),3,3)", "F"}, Case{{}, "layerinfo(frontwindow(),0,24)", "1"},
+                    Case{{}, "layerinfo(frontwindow(),\"ZonasBasicas2001\",24)", "0"},
+                    Case{{}, "layerinfo(frontwindow(),1,15)", "Nombre"},
+                    Case{{}, "layerinfo(frontwindow(),2,15)", "Año"},
+                    Case{{}, "layerinfo(frontwindow(),1,12)", "Brush (2,12632256,16777215)"},
+                    Case{{}, "layerinfo(frontwindow(),1,18)", "Font (\"Arial\",1,8,0)"},
+                    Case{{}, "mapperinfo(frontwindow(),9) ", "3"}, Case{{}, "mapperinfo(frontwindow(),1)", "700"},
+                    Case{{}, "mapperinfo(frontwindow(),3)", "-3"}, Case{{}, "mapperinfo(frontwindow(),4)", "41.5"},
+                    Case{{}, "mapperinfo(frontwindow(),12)", "km"}, Case{{}, "mapperinfo(frontwindow(),16)", "0"},
+                    Case{{}, "mapperinfo(frontwindow(),10)", "-1"},
+                    Case{{}, "mapperinfo(frontwindow(),17)", "CoordSys Earth Projection 1, 104"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, SessionConformance,
+    testing::Values(Case{{}, "WindowID(1)-frontwindow()", "0"}, Case{{}, "windowid(0)-WindowID(1)", "0"},
+                    Case{{}, "len(str$(windowid(1)))>=9", "T"}, Case{{}, "windowid(1009)", "1009"},
+                    Case{{}, "WindowInfo(windowid(1), 12)", "900001"}, Case{{}, "windowinfo(frontwindow(),3)", "1"},
+                    Case{{}, "windowinfo(frontwindow(),10)", "Cosmetic1"},
+                    Case{{"set window frontwindow() width 5 height 2.5"}, "windowinfo(frontwindow(),4)", "5"},
+                    Case{{"set window frontwindow() width 5 height 2.5"}, "windowinfo(frontwindow(),5)", "2.5"},
+                    Case{{"set window frontwindow() Max"}, "windowinfo(frontwindow(),9)", "2"},
+                    Case{{"set window frontwindow() title \"Mapa\""}, "windowinfo(frontwindow(),1)", "Mapa"},
+                    Case{{}, "Windowinfo(1009,11)", "F"}, Case{{"open window legend"}, "Windowinfo(1009,11)", "T"},
+                    Case{{"open window legend", "close window legend"}, "Windowinfo(1009,11)", "F"},
+                    Case{{"Close Window Legend"}, "Windowinfo(1009,11)", "F"},
+                    Case{{"run menu command 1710"}, "Windowinfo(1007,11)", "T"},
+                    Case{{"Set application Window 42", "Set Window Ruler Parent 42", "Set Window Legend Parent 42"},
+                         "numallwindows()",
+                         "1"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Layers, SessionConformance,
+    testing::Values(
+        Case{{"Set Map layer 1 selectable on display global zoom (0,100000) Off layer 2 display off"},
+             "layerinfo(frontwindow(),2,9)",
+             "0"},
+        Case{{"set map layer 1 selectable off display graphic layer 2 display global"},
+             "layerinfo(frontwindow(),1,3)",
+             "F"},
+        Case{{"set map layer 1 selectable off display graphic layer 2 display global"},
+             "layerinfo(frontwindow(),1,9)",
+             "1"},
+        Case{{"set map layer 1 selectable on display global zoom (0,100000) units \"Km\" On  layer 2 Label Default "
+              "display off "},
+             "layerinfo(frontwindow(),1,6)",
+             "100000"},
+        Case{{"set map layer 1 selectable off display graphic zoom (310,100000) units \"Km\" On label default layer 2 "
+              "display global"},
+             "layerinfo(frontwindow(),1,5)",
+             "310"},
+        Case{{"set map layer 1 selectable off display graphic zoom (310,100000) units \"Km\" On label default layer 2 "
+              "display global"},
+             "layerinfo(frontwindow(),1,4)",
+             "T"},
+        Case{{"set map order 2,1,3"}, "layerinfo(frontwindow(),1,1)", "ZonasBasicas2001"},
+        Case{{"set map order 2,1,3", "set map order 2,1,3"}, "layerinfo(frontwindow(),1,1)", "Provincias2001"},
+        Case{{"set map order 3"}, "layerinfo(frontwindow(),2,1)", "Provincias2001"},
+        Case{{"Add Map Layer Veldoria2001"}, "mapperinfo(frontwindow(),9)", "4"},
+        Case{{"Add Map Layer Veldoria2001"}, "layerinfo(frontwindow(),1,1)", "Veldoria2001"},
+        Case{{"Add Map Auto Layer Veldoria2001"}, "layerinfo(frontwindow(),1,1)", "Veldoria2001"},
+        Case{{"Remove map layer 1 Interactive"}, "layerinfo(frontwindow(),1,1)", "ZonasBasicas2001"},
+        Case{{"Remove Map Layer \"ZonasBasicas2001\",3"}, "mapperinfo(frontwindow(),9)", "1"},
+        Case{{"Remove Map Layer 1,2,3"}, "numwindows()", "0"},
+        Case{{"set map layer 1 label default display global layer 2 label default display off"},
+             "layerinfo(frontwindow(),2,9)",
+             "0"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    View, SessionConformance,
+    testing::Values(
+        Case{{"Set map zoom 200 units \"km\" center(-3.25, 41)"}, "mapperinfo(frontwindow(),1)", "200"},
+        Case{{"Set map zoom 200 units \"km\" center(-3.25, 41)"}, "mapperinfo(frontwindow(),3)", "-3.25"},
+        Case{{"Set map zoom 200 units \"km\"  center(-3.25, 41)"}, "mapperinfo(frontwindow(),4)", "41"},
+        Case{{"Set map zoom 200"}, "mapperinfo(frontwindow(),1)", "200"},
+        Case{{"Set map zoom 200 units \"km\"", "Set Distance Units \"m\""}, "mapperinfo(frontwindow(),1)", "200000"},
+        Case{{"Set map zoom 200 units \"km\"", "set map zoom entire"}, "mapperinfo(frontwindow(),3)", "-3"},
+        Case{{"Set map zoom 200 units \"km\"", "Set map zoom entire"}, "mapperinfo(frontwindow(),5)<=-6", "T"},
+        Case{{"Set map zoom 200 units \"km\"", "Set map zoom entire"}, "mapperinfo(frontwindow(),8)>=43", "T"},
+        Case{{kAvalos, "Add map layer Selection",
+              "Set map center (centroidX(selection.obj),centroidy(selection.obj))zoom 300 units \"Km\" layer 1 display "
+              "global global brush (2,255,255) Pen (1,2,44031) Label Font (\"Tahoma\",1,8,16777215)"},
+             "mapperinfo(frontwindow(),3)",
+             "-5"},
+        Case{{kAvalos,
+              "Add map layer Selection Set map center (centroidx(selection.obj),centroidy(selection.obj)) zoom 300 "
+              "units \"km\" layer 1 display global global brush (2,255,255) Pen (1,2,44031) Label Font "
+              "(\"Tahoma\",1,8,16777215)"},
+             "layerinfo(frontwindow(),1,12)",
+             "Brush (2,255,255)"},
+        Case{
+            {kAvalos, "Add map layer Selection",
+             "Set map zoom 200 units \"Km\" center (centroidX(selection.obj),centroidY(selection.obj)) layer 1 display "
+             "global global brush (2,255,255) pen (1,2,44031) Label Font (\"Tahoma\",1,8,16777215)"},
+            "layerinfo(frontwindow(),1,18)",
+            "Font (\"Tahoma\",1,8,16777215)"},
+        Case{{"Set CoordSys Earth Projection 1, 104",
+              "Set Map CoordSys Earth Projection 8, 104, \"m\", -3, 0, 0.9996, "
+              "500000, 0 Center (500000, 4594000)"},
+             "round(mapperinfo(frontwindow(),3),0.001)",
+             "-3"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Selections, SessionConformance,
+    testing::Values(
+        Case{{}, "selectioninfo(3)", "0"}, Case{{}, "selectioninfo(1)", ""}, Case{{kAvalos}, "Selectioninfo(3)", "12"},
+        Case{{kAvalos}, "SelectionInfo(1)", "Provincias2001"}, Case{{kAvalos}, "selectioninfo(2)", "Query1"},
+        Case{{kAvalos}, "tableinfo(\"Selection\",8)", "12"}, Case{{kAvalos}, "tableinfo(Selection,4)", "6"},
+        Case{{kAvalos}, "Selection.nombre", "Ávalos"}, Case{{kAvalos}, "Selection.año", "2001"},
+        Case{{kAvalos}, "Selection.COL2", "Ávalos"}, Case{{kAvalos}, "selection.col(3)", "Mujeres"},
+        Case{{kAvalos}, "Selection.rowid", "1"}, Case{{kAvalos}, "Provincias2001.rowid", "13"},
+        Case{{kAvalos}, "centroidx(selection.obj)", "-5"},
+        Case{{kAvalos}, "Formatnumber$(round(Selection.valor,0.01))", "12,35"},
+        Case{{kAvalos, "fetch next from selection"}, "Formatnumber$(round(Selection.valor,0.01))", "1.234"},
+        Case{{kAvalos, "fetch next from selection"}, "Provincias2001.indicador", "Fallecidos"},
+        Case{{kAvalos, "Fetch last from selection"}, "EOT(\"Selection\")", "F"},
+        Case{{kAvalos, "Fetch last from selection", "fetch next from selection"}, "EOT(\"Selection\")", "T"},
+        Case{{kAvalos, "Fetch Rec 3 From Provincias2001"}, "Provincias2001.nombre", "Ñorga"},
+        Case{{"Select obj from Provincias2001 where rowid=25"}, "Selectioninfo(3)", "1"},
+        Case{{"Select nombre from Provincias2001 group by nombre"}, "Selection.nombre", "Ávalos"},
+        Case{{"Select CentroidX(obj), CentroidY(obj) from Provincias2001 where nombre=\"Ñorga\""},
+             "Selection.COL2",
+             "41.5"},
+        Case{{"Select * from Provincias2001  where obj contains createpoint(-2.5,41) order by sexo,tipo"},
+             "Selection.nombre",
+             "Ñorga"},
+        Case{{"Select * from Provincias2001  where obj contains createpoint(-20,41) order by sexo,tipo"},
+             "Selectioninfo(3)",
+             "0"},
+        Case{{kAvalos, "select * from Provincias2001 where nombre=\"Nadie\""}, "EOT(Selection)", "T"},
+        Case{{kAvalos, "run menu command 304"}, "selectioninfo(3)", "0"},
+        Case{{kAvalos, "Close Table Selection"}, "selectioninfo(3)", "0"},
+        Case{{kAvalos + " into Elegidas"}, "tableinfo(\"elegidas\",8)", "12"},
+        Case{{kAvalos + " into Elegidas"}, "selectioninfo(2)", "Elegidas"},
+        Case{{kAvalos + " into Elegidas noselect"}, "selectioninfo(3)", "0"},
+        Case{{kAvalos + " into Q", "select * from Veldoria2001 into Q"}, "SelectionInfo(1)", "Veldoria2001"},
+        Case{{kAvalos, "Add map layer Selection"}, "layerinfo(frontwindow(),1,1)", "Query1"},
+        Case{{kAvalos, "Add map layer Selection", "select * from Veldoria2001", "Add map layer Selection"},
+             "layerinfo(frontwindow(),1,1)",
+             "Query2"},
+        Case{{kAvalos, "Add map layer Selection", "select * from Veldoria2001"}, "tableinfo(Query1,7)", "T"},
+        Case{{kAvalos, "Add map layer Selection", "Close Table Query1"},
+             "layerinfo(frontwindow(),1,1)",
+             "Provincias2001"},
+        Case{{kAvalos, "Close Table Provincias2001"}, "layerinfo(frontwindow(),1,1)", "ZonasBasicas2001"},
+        Case{{"Close All"}, "numtables()+numwindows()", "0"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Searches, SessionConformance,
+    testing::Values(Case{{}, "SearchPoint(WindowID(1),-5,40.5)", "2"},
+                    Case{{"set map layer 2 display off"}, "SearchPoint(WindowID(1),-5,40.5)", "1"},
+                    Case{{"set map layer 1 zoom (0,10) units \"km\" on"}, "SearchPoint(WindowID(1),-5,40.5)", "1"},
+                    Case{{}, "SearchPoint(WindowID(1),10,10)", "0"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Others, SessionConformance,
+    testing::Values(
+        Case{{"Dim a As String a = \"Set Distance Units \"\"m\"\"\" Run Command a Undim a"},
+             "mapperinfo(frontwindow(),1)",
+             "700000"},
+        Case{{"Set Format Number \"9,999.9\""}, "FormatNumber$(1234.5)", "1,234.5"},
+        Case{{"Set Format Number \"9,999.9\"", "Set Format Number \"Local\""}, "FormatNumber$(1234.5)", "1.234,5"},
+        Case{{"Set Paper Units \"cm\"", "set window frontwindow() width 2.54 units \"cm\""},
+             "windowinfo(frontwindow(),4)",
+             "2.54"},
+        Case{{"Add Column Provincias2001 (Doble Float) From Veldoria2001 Set To Valor Where Indicador = "
+              "Indicador Dynamic"},
+             "round(Provincias2001.doble,0.001)",
+             "37.035"},
+        Case{{"Add Column Veldoria2001 (Orden Integer) Values 7,8,9", "fetch rec 3 from Veldoria2001"},
+             "Veldoria2001.orden",
+             "9"},
+        Case{{"Set Map Layer 0 Editable On", "Create Rect (-4,40) (-3,41) Pen (2,2,255)"},
+             "mapperinfo(frontwindow(),10)",
+             "0"},
+        Case{{"run menu command 807"}, "mapperinfo(frontwindow(),3)", "-3"},
+        Case{{"run menu command 112", "run menu command 801", "run menu command 814"}, "numwindows()", "1"}));
+
+TEST_F(SessionTest, windowIdsAreNeverGivenTwice) {
+  openYear();
+  const std::string first = eval("frontwindow()");
+  Session other(windows, {.roots = {study().path()}});
+  other.run("run application \"" + writtenPath("2001\\Año2001.wor") + "\"");
+  EXPECT_NE(other.eval("frontwindow()").text(), first);
+}
+
+TEST_F(SessionTest, aThemeIsALayerAboveItsBase) {
+  openWorkspace("Tematicos\\Tumores.wor");
+  EXPECT_EQ(eval("mapperinfo(frontwindow(),9)"), "2");
+  EXPECT_EQ(eval("mapperinfo(frontwindow(),16)"), "1");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),1,1)"), "Tumores(1)");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),1,9)"), "3");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),1,24)"), "3");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),2,1)"), "Tumores");
+  EXPECT_EQ(rejectedRun("set map layer 1 label default layer 2 label default"), "accepted");
+  EXPECT_EQ(eval("SearchPoint(WindowID(1),-5,41)"), "1");
+  EXPECT_EQ(eval("SearchInfo(1,1)"), "Tumores");
+  ASSERT_NE(map().map().layers[0].theme, nullptr);
+  EXPECT_NE(map().map().layers[0].legend, nullptr);
+  run("Shade 2 with Valor values 10.5 Brush (2,255,0), 30.5 Brush (2,0,0)");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),1,1)"), "Tumores(2)");
+  run("Remove Map Layer \"Tumores(2)\"");
+  EXPECT_EQ(eval("mapperinfo(frontwindow(),9)"), "2");
+  run("Remove Map Layer \"Tumores\"");
+  EXPECT_EQ(eval("numwindows()"), "0");
+}
+
+TEST_F(SessionTest, aThemeStaysAboveItsBaseInAnyOrder) {
+  openYear();
+  run("Shade 2 with Valor values 1 Brush (2,255,0)");
+  run("set map order 1,4,3,2");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),2,1)"), "Veldoria2001");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),3,1)"), "ZonasBasicas2001(1)");
+  EXPECT_EQ(eval("layerinfo(frontwindow(),4,1)"), "ZonasBasicas2001");
+}
+
+TEST_F(SessionTest, labelsGoBackToDefault) {
+  openYear();
+  run("Set Map Layer 1 Label Object 2 Visibility On Anchor (-3,41) Text \"Aquí\" Object 3 Visibility Off");
+  const std::vector<EditedLabel>& edited = map().map().layers[0].label.edited;
+  ASSERT_EQ(edited.size(), 2U);
+  EXPECT_EQ(edited[0].row, 2U);
+  EXPECT_EQ(edited[0].text, "Aquí");
+  EXPECT_EQ(edited[0].anchor, (Point{-3, 41}));
+  EXPECT_FALSE(edited[1].visible);
+  run("set map layer 1 label default ");
+  EXPECT_TRUE(map().map().layers[0].label.edited.empty());
+  EXPECT_EQ(map().map().layers[0].label.expression, "Nombre");
+}
+
+TEST_F(SessionTest, layerSettingsThatAreLeftOutStay) {
+  openYear();
+  run("set map layer 1 display graphic");
+  const Layer& layer = map().map().layers[0];
+  EXPECT_EQ(layer.display, Display::graphic);
+  EXPECT_EQ(layer.brush, (Brush{2, 12632256, 16777215}));
+  EXPECT_EQ(layer.label.offset, 2);
+  EXPECT_TRUE(layer.selectable);
+}
+
+TEST_F(SessionTest, cosmeticObjectsAreDrawnInTheMapsSystem) {
+  openYear();
+  run("Create Point (-3,41) Symbol (34,255,12) Create Ellipse (-4,40) (-3,41)");
+  const TablePtr table = map().map().cosmetic.table;
+  ASSERT_TRUE(table);
+  ASSERT_EQ(table->rowCount(), 2U);
+  EXPECT_EQ(table->object(1)->points.front(), (Point{-3, 41}));
+  EXPECT_EQ(table->object(1)->symbol.shape, 34);
+  EXPECT_EQ(table->object(2)->kind, MapObject::Kind::region);
+  EXPECT_TRUE(contains(*table->object(2), {-3.5, 40.5}));
+}
+
+TEST_F(SessionTest, legendWindowFollowsItsStatements) {
+  openYear();
+  windows.notes.clear();
+  run("Set Window Legend Parent 4711");
+  EXPECT_TRUE(windows.notes.empty());
+  run("open window legend");
+  run("set window legend position (6,5) units \"in\" ");
+  run("close window legend");
+  EXPECT_EQ(windows.notes,
+            (std::vector<std::string>{"legend in 4711 at 0,0", "legend in 4711 at 576,480", "no legend"}));
+}
+
+TEST_F(SessionTest, windowSizesAreInInches) {
+  openYear();
+  windows.notes.clear();
+  const std::string id = eval("windowid(1)");
+  run("set window " + id + " width 6.125 height 4.25");
+  run("set window " + id + "Max");
+  run("set window " + id + " width -2.9 height 0");
+  EXPECT_EQ(windows.notes, (std::vector<std::string>{"resize 588x408", "maximize", "resize 1x1"}));
+}
+
+TEST_F(SessionTest, theZoomIsAWidthAndStaysWhenTheWindowChanges) {
+  openYear();
+  run("Set Distance Units \"km\"");
+  map().resized(1000, 300);
+  EXPECT_EQ(eval("mapperinfo(frontwindow(),1)"), "700");
+}
+
+TEST_F(SessionTest, theSessionsEndClosesItsWindows) {
+  openYear();
+  run("open window legend");
+  windows.notes.clear();
+  run("end mapinfo");
+  EXPECT_EQ(windows.notes, (std::vector<std::string>{"no legend", "close"}));
+  EXPECT_EQ(rejectedRun("set map zoom entire"), "la sesión ha terminado");
+  EXPECT_EQ(rejectedEval("frontwindow()"), "la sesión ha terminado");
+}
+
+TEST_F(SessionTest, destroyingTheSessionClosesItsWindows) {
+  {
+    Session other(windows, {.roots = {study().path()}});
+    other.run("run application \"" + writtenPath("2001\\Año2001.wor") + "\"");
+    windows.notes.clear();
+  }
+  EXPECT_EQ(windows.notes, std::vector<std::string>{"close"});
+}
+
+TEST_F(SessionTest, theServiceKnowsOneProgramId) {
+  SessionService service(windows, {.roots = {study().path()}});
+  EXPECT_EQ(service.current(), nullptr);
+  auto engine = service.create("MapInfo.runtime");
+  EXPECT_EQ(service.current(), engine);
+  EXPECT_EQ(engine->eval("1+1").text(), "2");
+  engine.reset();
+  EXPECT_EQ(service.current(), nullptr);
+  try {
+    static_cast<void>(service.create("Otro.motor"));
+    FAIL();
+  } catch (const Failure& failure) {
+    EXPECT_EQ(failure.number(), failures::kCannotCreateObject);
+  }
+}
+
+}  // namespace
+}  // namespace motor

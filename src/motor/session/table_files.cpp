@@ -1,0 +1,92 @@
+#include "motor/session/table_files.h"
+
+#include <algorithm>
+#include <array>
+#include <system_error>
+
+#include "motor/language/error.h"
+#include "motor/session/path_text.h"
+#include "platform/paths.h"
+#include "text/utf8.h"
+
+namespace motor {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<const char*, 22> kDevices{"con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4",
+                                               "com5", "com6", "com7", "com8", "com9", "lpt1", "lpt2", "lpt3",
+                                               "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
+
+bool isDevice(const std::string& component) {
+  const std::string stem = text::lower(component.substr(0, component.find_first_of(".:")));
+  return std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end();
+}
+
+// Throws EngineError for a path that may not be followed.
+void refuseUnsafe(const std::string& written, const std::string& path) {
+  const bool network = path.starts_with("//");
+  bool unsafe = network || path.find('\0') != std::string::npos;
+  for (const fs::path& part : pathOf(path)) unsafe = unsafe || part == ".." || isDevice(textOf(part));
+  if (unsafe) throw EngineError("«" + written + "»: ruta no permitida");
+}
+
+bool hasDrive(const std::string& path) { return path.size() >= 2 && path[1] == ':'; }
+
+}  // namespace
+
+TableFiles::TableFiles(const std::vector<fs::path>& roots) {
+  for (const fs::path& root : roots) {
+    std::error_code failed;
+    const fs::path canonical = fs::canonical(root, failed);
+    if (!failed) roots_.push_back(canonical);
+  }
+}
+
+bool TableFiles::isBelowRoot(const fs::path& canonical) const {
+  return std::any_of(roots_.begin(), roots_.end(), [&](const fs::path& root) {
+    return std::mismatch(root.begin(), root.end(), canonical.begin(), canonical.end()).first == root.end();
+  });
+}
+
+fs::path TableFiles::locate(const std::string& written, const std::optional<fs::path>& workspaceFolder,
+                            const std::vector<std::string>& endings) const {
+  std::string path = written;
+  std::replace(path.begin(), path.end(), '\\', '/');
+  refuseUnsafe(written, path);
+  const bool absolute = path.starts_with("/") || hasDrive(path);
+  std::vector<fs::path> candidates;
+  if (workspaceFolder) {
+    if (!absolute) candidates.push_back(*workspaceFolder / pathOf(path));
+    candidates.push_back(*workspaceFolder / pathOf(path.substr(path.find_last_of("/:") + 1)));
+  }
+  if (absolute) candidates.push_back(pathOf(path));
+  for (const fs::path& root : roots_) {
+    if (!absolute) candidates.push_back(root / pathOf(path));
+  }
+  bool outside = false;
+  for (const fs::path& candidate : candidates) {
+    for (const std::string& ending : endings) {
+      const fs::path file = platform::machinePath(textOf(candidate) + ending);
+      std::error_code failed;
+      if (!fs::is_regular_file(file, failed)) continue;
+      const fs::path canonical = fs::canonical(file, failed);
+      if (!failed && isBelowRoot(canonical)) return canonical;
+      outside = true;
+    }
+  }
+  throw EngineError(outside ? "«" + written + "»: está fuera de las carpetas que se pueden leer"
+                            : "«" + written + "»: no se encuentra el archivo");
+}
+
+fs::path TableFiles::table(const std::string& written, const std::optional<fs::path>& workspaceFolder) const {
+  const std::string ending = text::lower(written.size() > 4 ? written.substr(written.size() - 4) : "");
+  if (ending == ".tab" || ending == ".mif") return locate(written, workspaceFolder, {""});
+  return locate(written, workspaceFolder, {".tab", ".mif"});
+}
+
+fs::path TableFiles::workspace(const std::string& written, const fs::path& workspaceFolder) const {
+  return locate(written, workspaceFolder, {"", ".wor"});
+}
+
+}  // namespace motor

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace motor {
+
+// The tool in the user's hand on a map: a standard one by its menu command code (1701 select, 1702 grabber, 1705 zoom
+// in, 1706 zoom out, 1707 info, 1708 labeller, 1710 ruler, 1734 drag map), or a button of the program's own.
+struct Tool {
+  int command = 1701;  // 0 for a button of the program's own
+  int buttonId = 0;    // of such a button
+  int drawMode = 34;
+  int cursor = 0;
+};
+
+// An entry of the map's shortcut menu.
+struct MenuEntry {
+  std::string text;    // with "&" before the access key
+  int command = 0;     // a standard command to run, or 0
+  std::string method;  // the callback method to call, or ""
+  int id = 0;          // as written, or else the entry's place in its menu, from 1
+};
+
+// A tool button of the program's own.
+struct ToolButton {
+  int id = 0;
+  int drawMode = 34;
+  int cursor = 0;
+  std::string method;  // the callback method, or ""
+};
+
+// The menus and tool buttons of a session, and the tool that is current. Titles match without regard to case.
+class Toolbox {
+ public:
+  Toolbox();
+
+  // The map's shortcut menu is the one with id 17 or the name "MapperShortcut"; it starts without entries.
+  void createMenu(std::string_view name, int id, std::vector<MenuEntry> entries);
+  [[nodiscard]] const std::vector<MenuEntry>& shortcutMenu() const { return shortcutMenu_; }
+
+  // Replaces a pad of the same title.
+  void createPad(std::string_view title, std::vector<ToolButton> buttons);
+  // The four standard pads and those created. Throws EngineError when there is none of this title or number.
+  [[nodiscard]] std::vector<ToolButton>& pad(std::string_view title);
+  [[nodiscard]] std::vector<ToolButton>& pad(int number);
+  void destroyPad(std::string_view title);
+
+  // Throws EngineError for an id that no button has.
+  [[nodiscard]] const ToolButton& button(int id) const;
+
+  [[nodiscard]] const Tool& tool() const { return tool_; }
+  void choose(const Tool& tool) { tool_ = tool; }
+
+ private:
+  std::vector<MenuEntry> shortcutMenu_;
+  std::map<std::string, std::vector<ToolButton>> pads_;  // by title in lower case
+  Tool tool_;
+};
+
+}  // namespace motor

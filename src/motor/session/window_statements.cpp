@@ -1,0 +1,113 @@
+#include <cmath>
+
+#include "motor/session/executors.h"
+#include "motor/session/map_view.h"
+#include "motor/session/session_state.h"
+#include "motor/session/special_windows.h"
+#include "motor/session/window_shape.h"
+
+namespace motor {
+namespace {
+
+// Shows the open legend where it belongs; without a map there is nothing to show yet.
+void placeLegend(SessionState& session) {
+  MapWindow* front = session.frontWindow();
+  if (session.legend.open && front != nullptr)
+    session.port.showLegend(*front, session.legend.parent, session.legend.x, session.legend.y);
+}
+
+std::int64_t handleOf(const ExpressionPtr& handle, const SessionState& session) {
+  return std::llround(session.number(handle));
+}
+
+void setLegendWindow(SessionState& session, const SetWindow& statement) {
+  if (statement.parent) session.legend.parent = handleOf(statement.parent, session);
+  if (const auto& placement = statement.shape.position) {
+    const Point at = session.point(placement->at);
+    session.legend.x = paperPixels(at.x, placement->unit.empty() ? session.paperUnit : placement->unit);
+    session.legend.y = paperPixels(at.y, placement->unit.empty() ? session.paperUnit : placement->unit);
+  }
+  placeLegend(session);
+}
+
+void setMapWindow(SessionState& session, MapWindow& window, const SetWindow& statement) {
+  setShape(session, window, statement.shape);
+  MapWindowProperties& properties = window.properties();
+  if (statement.title) properties.title = session.text(statement.title);
+  properties.scrollBars = statement.scrollBars.value_or(properties.scrollBars);
+  properties.autoscroll = statement.autoscroll.value_or(properties.autoscroll);
+  properties.closeBox = statement.closeBox.value_or(properties.closeBox);
+  if (statement.front) session.bringToFront(window);
+}
+
+// The code of the special window that a clause speaks of, or 0.
+int specialWindowOf(const WindowReference& reference, const SessionState& session) {
+  if (!reference.name.empty()) return specialWindowCode(reference.name);
+  const int id = session.integer(reference.id);
+  return isSpecialWindow(id) ? id : 0;
+}
+
+void openLegend(SessionState& session) {
+  session.legend.open = true;
+  placeLegend(session);
+}
+
+void closeLegend(SessionState& session) {
+  if (!session.legend.open) return;
+  session.legend.open = false;
+  session.port.hideLegend();
+}
+
+}  // namespace
+
+void execute(SessionState& session, const SetWindow& statement) {
+  switch (specialWindowOf(statement.window, session)) {
+    case 0:
+      setMapWindow(session, session.windowOrFront(statement.window.id), statement);
+      return;
+    case kLegendWindow:
+      setLegendWindow(session, statement);
+      return;
+    case kRulerWindow:
+      if (statement.parent) session.rulerParent = handleOf(statement.parent, session);
+      return;
+    default:
+      return;  // the other floating windows are not there; what is said about them is passed over
+  }
+}
+
+void execute(SessionState& session, const OpenWindow& statement) {
+  if (specialWindowOf(statement.window, session) == kLegendWindow) openLegend(session);
+}
+
+void execute(SessionState& session, const CloseWindow& statement) {
+  const int special = specialWindowOf(statement.window, session);
+  if (special == 0) {
+    session.closeWindow(session.windowOrFront(statement.window.id));
+  } else if (special == kLegendWindow) {
+    closeLegend(session);
+  }
+}
+
+// Dialogs lie where the host puts them.
+void execute(SessionState& session, const SetApplicationWindow& statement) {
+  [[maybe_unused]] const double handle = session.number(statement.handle);
+}
+
+// Every new document lies where the port puts it.
+void execute(SessionState& session, const SetNextDocument& statement) {
+  if (statement.parent) [[maybe_unused]]
+    const double handle = session.number(statement.parent);
+}
+
+void execute(SessionState& session, const CreateLegend& statement) {
+  if (statement.window) session.bringToFront(session.windowOrFront(statement.window));
+  if (statement.shown) openLegend(session);
+}
+
+// A cartographic legend is a document of its own, which only print layouts use.
+void execute(SessionState& session, const CreateCartographicLegend& statement) {
+  [[maybe_unused]] const MapWindow& window = session.windowOrFront(statement.window);
+}
+
+}  // namespace motor
