@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QPainter>
+#include <QString>
+#include <memory>
+#include <optional>
+#include <set>
+#include <unordered_map>
+#include <vector>
+
+#include "motor/drawing/halo_text.h"
+#include "motor/drawing/label_texts.h"
+#include "motor/drawing/map_view.h"
+#include "motor/drawing/simplified_paths.h"
+#include "motor/map/layer.h"
+
+namespace motor {
+
+// The best points for labels, by object, in the map's coordinates; they cost too much to be found at every redraw.
+class LabelPoints {
+ public:
+  [[nodiscard]] Point of(const ObjectPtr& region);
+  // Forgets the points of objects that are gone.
+  void dropUnused();
+
+ private:
+  struct Entry {
+    std::weak_ptr<const MapObject> object;  // tells whether the address is still that object's
+    Point point;
+  };
+  std::unordered_map<const MapObject*, Entry> points_;
+};
+
+// An object that may be labelled, with the row that gives the text.
+struct LabelCandidate {
+  ObjectPtr object;
+  RowId row = 0;
+  const EditedLabel* edited = nullptr;  // where it was put or changed by hand
+  std::optional<Point> anchor;          // of such a label, in the map's coordinates
+};
+
+// Whether a layer has labels at this zoom.
+[[nodiscard]] bool isLabelledAt(const Layer& layer, double zoomMetres);
+
+// Writes the labels of a map, layer by layer from the most important one on. A label stays away if it would lie on one
+// that is already there, unless its layer lets labels overlap; a text is written once a layer unless duplicates are
+// wanted. Labels that were put by hand come first and always stand.
+class LabelPainter {
+ public:
+  LabelPainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, int level, LabelTexts& texts,
+               LabelPoints& points);
+
+  // The largest objects first.
+  void paintLayer(const Layer& layer, std::vector<LabelCandidate> candidates);
+
+ private:
+  // Whether the label found a place.
+  bool paintLabel(const LabelSettings& settings, const MapObject& object, const QString& text, QPointF anchor);
+  [[nodiscard]] QPointF anchorOf(const LabelCandidate& candidate);
+  // Where the label of a region goes in pixels: inside the part of it that is seen. Not finite when nothing is.
+  [[nodiscard]] QPointF regionAnchor(const ObjectPtr& region);
+  [[nodiscard]] bool isFree(const QRectF& box) const;
+
+  QPainter& painter_;
+  const MapView& view_;
+  SimplifiedPaths& paths_;
+  int level_;
+  LabelTexts& texts_;
+  LabelPoints& points_;
+  std::vector<QRectF> taken_;
+};
+
+}  // namespace motor

@@ -1,0 +1,80 @@
+#include "motor/drawing/label_point.h"
+
+#include <QRectF>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <queue>
+
+namespace motor {
+
+namespace {
+
+constexpr double kMostSquares = 32;  // along the longer side, at the start
+
+double squaredDistance(QPointF p, QPointF a, QPointF b) {
+  const QPointF d = b - a;
+  const double length = QPointF::dotProduct(d, d);
+  const double t = length > 0 ? std::clamp(QPointF::dotProduct(p - a, d) / length, 0.0, 1.0) : 0;
+  const QPointF apart = p - (a + d * t);
+  return QPointF::dotProduct(apart, apart);
+}
+
+// The distance to the outline, negative outside.
+double signedDistance(const std::vector<QPolygonF>& rings, QPointF p) {
+  bool inside = false;
+  double nearest = std::numeric_limits<double>::max();
+  for (const QPolygonF& ring : rings) {
+    for (qsizetype i = 1; i < ring.size(); ++i) {
+      const QPointF a = ring[i - 1];
+      const QPointF b = ring[i];
+      if ((a.y() > p.y()) != (b.y() > p.y()) && p.x() < (b.x() - a.x()) * (p.y() - a.y()) / (b.y() - a.y()) + a.x()) {
+        inside = !inside;
+      }
+      nearest = std::min(nearest, squaredDistance(p, a, b));
+    }
+  }
+  return (inside ? 1 : -1) * std::sqrt(nearest);
+}
+
+struct Square {
+  QPointF centre;
+  double half = 0;      // of its side
+  double distance = 0;  // of its centre to the outline
+  double bound = 0;     // no point in it is farther
+
+  Square(const std::vector<QPolygonF>& rings, QPointF at, double halfSide)
+      : centre(at), half(halfSide), distance(signedDistance(rings, at)), bound(distance + half * std::numbers::sqrt2) {}
+  bool operator<(const Square& other) const { return bound < other.bound; }
+};
+
+}  // namespace
+
+QPointF labelPoint(const std::vector<QPolygonF>& rings, double precision) {
+  QRectF bounds;
+  for (const QPolygonF& ring : rings) bounds = bounds.isNull() ? ring.boundingRect() : bounds | ring.boundingRect();
+  const double longest = std::max(bounds.width(), bounds.height());
+  if (std::min(bounds.width(), bounds.height()) <= 0) return bounds.center();
+  const double side = std::max(std::min(bounds.width(), bounds.height()), longest / kMostSquares);
+  std::priority_queue<Square> squares;
+  const double half = side / 2;
+  for (double x = bounds.left(); x < bounds.right(); x += side) {
+    for (double y = bounds.top(); y < bounds.bottom(); y += side)
+      squares.emplace(rings, QPointF(x + half, y + half), half);
+  }
+  Square best(rings, bounds.center(), 0);
+  while (!squares.empty()) {
+    const Square square = squares.top();
+    squares.pop();
+    if (square.bound - best.distance <= precision) break;
+    if (square.distance > best.distance) best = square;
+    const double quarter = square.half / 2;
+    for (const double dx : {-quarter, quarter}) {
+      for (const double dy : {-quarter, quarter}) squares.emplace(rings, square.centre + QPointF(dx, dy), quarter);
+    }
+  }
+  return best.centre;
+}
+
+}  // namespace motor

@@ -1,0 +1,61 @@
+#include "motor/drawing/label_point.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainterPath>
+#include <QRectF>
+#include <cmath>
+#include <limits>
+
+namespace motor {
+namespace {
+
+double distanceToOutline(const std::vector<QPolygonF>& rings, QPointF p) {
+  double nearest = std::numeric_limits<double>::max();
+  for (const QPolygonF& ring : rings) {
+    for (qsizetype i = 1; i < ring.size(); ++i) {
+      for (int step = 0; step <= 1000; ++step) {
+        const QPointF q = ring[i - 1] + (ring[i] - ring[i - 1]) * (step / 1000.0);
+        nearest = std::min(nearest, std::hypot(q.x() - p.x(), q.y() - p.y()));
+      }
+    }
+  }
+  return nearest;
+}
+
+TEST(LabelPoint, IsWhereTheOutlineIsFarthest) {
+  struct Case {
+    const char* what;
+    std::vector<QPolygonF> rings;
+    double room;  // radius of the largest circle inside
+  };
+  constexpr double kPrecision = 0.05;
+  const Case cases[] = {
+      {"square", {QPolygonF(QRectF(0, 0, 10, 10))}, 5},
+      {"L", {{{0, 0}, {40, 0}, {40, 10}, {20, 10}, {20, 40}, {0, 40}, {0, 0}}}, 10},
+      {"U, its centre of gravity outside",
+       {{{0, 0}, {30, 0}, {30, 30}, {24, 30}, {24, 10}, {6, 10}, {6, 30}, {0, 30}, {0, 0}}},
+       5.045},
+      {"two islands", {QPolygonF(QRectF(0, 0, 4, 4)), QPolygonF(QRectF(20, 0, 10, 10))}, 5},
+      {"a hole in the middle", {QPolygonF(QRectF(0, 0, 30, 30)), QPolygonF(QRectF(5, 5, 20, 20))}, 2.93},
+  };
+  for (const Case& c : cases) {
+    const QPointF found = labelPoint(c.rings, kPrecision);
+    QPainterPath path;
+    for (const QPolygonF& ring : c.rings) path.addPolygon(ring);
+    EXPECT_TRUE(path.contains(found)) << c.what;
+    EXPECT_GE(distanceToOutline(c.rings, found), c.room - kPrecision) << c.what;
+  }
+}
+
+TEST(LabelPoint, OfAnEmptyPolygonIsTheMiddleOfItsBounds) {
+  EXPECT_EQ(labelPoint({QPolygonF{{2, 4}, {6, 4}, {2, 4}}}, 0.1), QPointF(4, 4));
+}
+
+TEST(LabelPoint, OfALongThinPolygonIsFoundSoon) {
+  const QPointF found = labelPoint({QPolygonF(QRectF(0, 0, 1e6, 1))}, 0.1);
+  EXPECT_NEAR(found.y(), 0.5, 0.11);
+}
+
+}  // namespace
+}  // namespace motor

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QPainter>
+#include <QSizeF>
+
+#include "motor/drawing/label_painter.h"
+#include "motor/drawing/label_texts.h"
+#include "motor/drawing/simplified_paths.h"
+#include "motor/map/map.h"
+
+namespace motor {
+
+// Smooth edges and labels, or what can be painted many times a second while the map moves.
+enum class Quality { best, fast };
+
+// Paints maps: the layers that are drawn at the map's zoom from the bottom up, each distinct object once, the cosmetic
+// layer on top, then the labels, those of the upper layers first. What it learns about objects is kept for the next
+// time.
+class MapPainter {
+ public:
+  // Paints the map on a picture of `size` logical pixels, each of `devicePixelRatio` device pixels; the zoom is the
+  // picture's width. The ground is left as it is.
+  void paint(QPainter& painter, const Map& map, QSizeF size, double devicePixelRatio, Quality quality);
+
+ private:
+  void paintLabels(QPainter& painter, const Map& map, const MapView& view, int level);
+
+  SimplifiedPaths paths_;
+  LabelTexts texts_;
+  LabelPoints points_;
+};
+
+}  // namespace motor

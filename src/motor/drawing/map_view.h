@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+#include "motor/map/map.h"
+
+namespace motor {
+
+// What part of the world a picture shows: the map's centre and zoom on a picture of any size in logical pixels. The
+// zoom is the picture's width.
+class MapView {
+ public:
+  MapView(const Map& map, QSizeF size)
+      : centre_(map.centre), unitsPerPixel_(map.unitsPerPixel() * map.pixelWidth / size.width()), size_(size) {}
+
+  [[nodiscard]] double unitsPerPixel() const { return unitsPerPixel_; }
+  [[nodiscard]] QRectF rect() const { return {QPointF(0, 0), size_}; }
+  [[nodiscard]] QPointF toPixel(Point p) const {
+    return {size_.width() / 2 + (p.x - centre_.x) / unitsPerPixel_,
+            size_.height() / 2 - (p.y - centre_.y) / unitsPerPixel_};
+  }
+  [[nodiscard]] QRectF toPixels(const Box& box) const {
+    return {toPixel({box.minX, box.maxY}), toPixel({box.maxX, box.minY})};
+  }
+  // The map's coordinates of a rectangle of pixels.
+  [[nodiscard]] Box toMap(const QRectF& pixels) const {
+    return {centre_.x + (pixels.left() - size_.width() / 2) * unitsPerPixel_,
+            centre_.y - (pixels.bottom() - size_.height() / 2) * unitsPerPixel_,
+            centre_.x + (pixels.right() - size_.width() / 2) * unitsPerPixel_,
+            centre_.y - (pixels.top() - size_.height() / 2) * unitsPerPixel_};
+  }
+
+ private:
+  Point centre_;
+  double unitsPerPixel_;
+  QSizeF size_;
+};
+
+}  // namespace motor

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPainter>
+#include <QString>
+
+namespace motor {
+
+// A round distance and the pixels that it takes.
+struct ScaleBar {
+  double metres = 0;
+  double pixels = 0;
+  QString text;  // "50 km", "500 m"
+};
+
+// The longest of 1, 2 or 5 times a power of ten that takes at most `mostPixels`; nothing for a scale that is no number.
+[[nodiscard]] ScaleBar scaleBarFor(double metresPerPixel, double mostPixels);
+
+// Paints a scale bar with its left end at `corner`, the baseline of the bar.
+void paintScaleBar(QPainter& painter, const ScaleBar& bar, QPointF corner);
+
+}  // namespace motor

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QPainter>
+
+#include "motor/language/styles.h"
+
+namespace motor {
+
+// Paints a symbol with its middle at `at`. Sizes are points, angles degrees counter-clockwise. A character of a font
+// that is not installed, and a picture, are shown as a disc of the symbol's colour and size.
+void paintSymbol(QPainter& painter, const Symbol& symbol, QPointF at);
+
+}  // namespace motor
