@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+#include "motor/session/map_window.h"
+
+namespace motor {
+
+// The legend of a map in a small window of its own.
+class LegendWindow : public QWidget {
+ public:
+  LegendWindow(const MapWindow& window, QWidget* parent);
+
+  [[nodiscard]] bool shows(const MapWindow& window) const { return &window_ == &window; }
+  // The map or its layers have changed.
+  void refresh();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const MapWindow& window_;
+};
+
+}  // namespace motor

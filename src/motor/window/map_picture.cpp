@@ -1,0 +1,44 @@
+#include "motor/window/map_picture.h"
+
+#include <QElapsedTimer>
+
+#include "motor/drawing/map_view.h"
+
+namespace motor {
+
+namespace {
+
+constexpr double kFrameMilliseconds = 16;
+
+}  // namespace
+
+void MapPicture::render(const Map& map, const Key& key, Quality quality) {
+  QElapsedTimer timer;
+  timer.start();
+  const QSize pixels = (QSizeF(key.size) * key.devicePixelRatio).toSize();
+  if (image_.size() != pixels) image_ = QImage(pixels, QImage::Format_RGB32);
+  image_.setDevicePixelRatio(key.devicePixelRatio);
+  image_.fill(Qt::white);
+  QPainter painter(&image_);
+  painter_.paint(painter, map, key.size, key.devicePixelRatio, quality);
+  key_ = key;
+  quality_ = quality;
+  shown_ = MapView(map, key.size).toMap(QRectF(QPointF(0, 0), QSizeF(key.size)));
+  const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+  (quality == Quality::best ? bestMilliseconds_ : fastMilliseconds_) = milliseconds;
+  ++renderCount_;
+}
+
+std::optional<Quality> MapPicture::qualityForMoving() const {
+  if (bestMilliseconds_ <= kFrameMilliseconds) return Quality::best;
+  if (fastMilliseconds_ <= kFrameMilliseconds) return Quality::fast;
+  return std::nullopt;
+}
+
+void MapPicture::paint(QPainter& painter, const Map& map, QSizeF size) const {
+  const QRectF place = MapView(map, size).toPixels(shown_);
+  if (place.size() != size) painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(place, image_);
+}
+
+}  // namespace motor
