@@ -1,0 +1,1 @@
+veldoria_app(motor LINKS veldoria_motor_session veldoria_motor_drawing veldoria_motor_language Qt6::Gui)
