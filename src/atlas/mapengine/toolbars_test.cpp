@@ -1,0 +1,117 @@
+#include "atlas/test_world.h"
+
+namespace atlas {
+namespace {
+
+using testing::Lines;
+
+struct Expected {
+  int index;
+  std::string toolTip;
+  std::string statement;
+  std::string label;  // empty: the label is left as it is
+};
+
+class Toolbars : public testing::Program {
+ protected:
+  void expectRow(const forms::ImageArray& row, const std::vector<Expected>& buttons) {
+    for (const Expected& button : buttons) {
+      row.at(button.index).userClick();
+      Lines lines{"do " + button.statement};
+      if (!button.label.empty()) lines.push_back("set lblComando.Caption \"Comando actual: " + button.label + "\"");
+      EXPECT_EQ(world.take(), lines) << row.at(button.index).name();
+      EXPECT_EQ(row.at(button.index).toolTipText, button.toolTip);
+    }
+    EXPECT_THROW(static_cast<void>(row.at(4)), Failure);
+  }
+};
+
+TEST_F(Toolbars, ThematicRow) {
+  startOnTab(1);
+  expectRow(main().Image2, {{0, "Zoom+", "run menu command 1705", "Zoom+"},
+                            {1, "Zoom-", "run menu command 1706", "Zoom-"},
+                            {2, "Desplazamiento", "run menu command 1702", "Desplazamiento"},
+                            {3, "Información", "run menu command ID 2001", "Información"},
+                            {5, "Etiquetado", "run menu command 1708", "Etiquetado"},
+                            {6, "Medir Distancias", "run menu command 1710", "Medir Distancias"},
+                            {7, "Arrastrar Mapa a otra aplicación", "run menu command 1734", "Arrastrar ventana"},
+                            {8, "Imprimir Mapa", "run menu command 112", ""},
+                            {12, "Ver Mapa Completo", "set map zoom entire", ""}});
+  EXPECT_EQ(main().Image2.indices(), (std::vector{0, 1, 2, 3, 5, 6, 7, 8, 9, 10, 11, 12}));
+}
+
+TEST_F(Toolbars, StatisticsRow) {
+  start();
+  expectRow(main().Image3, {{0, "Zoom+", "run menu command 1705", "Zoom +"},
+                            {1, "Zoom-", "run menu command 1706", "Zoom-"},
+                            {2, "Desplazamiento", "run menu command 1702", "Desplazamiento"},
+                            {3, "Información", "run menu command ID 2002", "Información"},
+                            {5, "Medir distancias", "run menu command 1710", "Medir Distancias"},
+                            {6, "Arrastrar Mapa a otra aplicación", "run menu command 1734", "Arrastrar ventana"},
+                            {7, "Etiquetado", "run menu command 1708", "Etiquetado"},
+                            {8, "Imprimir Mapa", "run menu command 112", ""},
+                            {10, "Ver Mapa Completo", "Set map zoom entire", ""}});
+}
+
+TEST_F(Toolbars, DataRow) {
+  startOnTab(2);
+  expectRow(main().Image4, {{0, "Zoom+", "run menu command 1705", "Zoom+"},
+                            {1, "Zoom-", "run menu command 1706", "Zoom-"},
+                            {2, "Desplazamiento", "run menu command 1702", "Desplazamiento"},
+                            {3, "Información", "run menu command ID 2003", "Información"},
+                            {5, "Medir Distancias", "run menu command 1710", "Medir Distancias"},
+                            {6, "Arrastrar Mapa a otra aplicación", "run menu command 1734", "Arrastrar ventana"},
+                            {7, "Imprimir Mapa", "run menu command 112", ""},
+                            {9, "Etiquetado", "run menu command 1708", "Etiquetado"},
+                            {10, "Ver Mapa Completo", "set map zoom entire", ""}});
+}
+
+TEST_F(Toolbars, HelpLeavesTheLabel) {
+  start();
+  for (forms::Image* help : {&main().Image2.at(9), &main().Image3.at(9), &main().Image4.at(8)}) {
+    EXPECT_EQ(help->toolTipText, "Ayuda");
+    help->userClick();
+    EXPECT_EQ(world.take(), (Lines{"help C:\\Estudio\\Ayuda\\Ayuda.hlp 3"}));
+  }
+}
+
+TEST_F(Toolbars, AnIndexBeyondTheRowDoesNothing) {
+  start();
+  main().Image2.Click.raise(13);
+  main().Image3.Click.raise(11);
+  main().Image4.Click.raise(11);
+  main().Image4.Click.raise(4);
+  EXPECT_EQ(world.take(), Lines{});
+}
+
+TEST_F(Toolbars, SelectorIsToggled) {
+  startOnTab(1);
+  main().Image2.at(10).userClick();
+  EXPECT_EQ(world.take({"find", "hide", "unload", "load", "show", "zorder"}),
+            (Lines{"find Seleccionar mapa temático found", "hide frmTematicos", "unload frmTematicos"}));
+  main().Image2.at(10).userClick();
+  EXPECT_EQ(world.take({"find", "hide", "unload", "load", "show", "zorder"}),
+            (Lines{"find Seleccionar mapa temático none", "load frmTematicos", "show frmTematicos",
+                   "zorder 300 topmost 19"}));
+}
+
+TEST_F(Toolbars, LegendIsOpenedUnlessTheEngineSaysT) {
+  startOnTab(1);
+  const std::vector<std::pair<std::string, std::string>> answers{
+      {"T", "do close window legend"}, {"F", "do open window legend"}, {"", "do open window legend"}};
+  for (const auto& [answer, statement] : answers) {
+    world.answers["windowinfo(1009,11)"] = answer;
+    main().Image2.at(11).userClick();
+    EXPECT_EQ(world.take(), (Lines{"eval Windowinfo(1009,11) = " + answer, statement}));
+  }
+}
+
+TEST_F(Toolbars, AFailureLeavesTheLabelInSilence) {
+  start();
+  world.failAt("do run menu command 1705", failures::kEngineRejected);
+  main().Image3.at(0).userClick();
+  EXPECT_EQ(world.take({"set lblComando", "msgbox"}), Lines{});
+}
+
+}  // namespace
+}  // namespace atlas
