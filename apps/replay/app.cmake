@@ -1,0 +1,1 @@
+veldoria_app(replay LINKS veldoria_headless)

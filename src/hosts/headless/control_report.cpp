@@ -1,0 +1,48 @@
+#include "hosts/headless/control_report.h"
+
+#include <array>
+#include <memory>
+
+#include "forms/item_list.h"
+
+namespace headless {
+namespace {
+
+using forms::Property;
+
+constexpr std::array kProperties{Property::Caption, Property::Text,         Property::ListIndex, Property::Value,
+                                 Property::Tab,     Property::SelectedItem, Property::Visible,   Property::Enabled,
+                                 Property::Left,    Property::Top,          Property::Width,     Property::Height};
+
+void addBranch(std::vector<std::string>& lines, const std::vector<std::unique_ptr<forms::Node>>& nodes,
+               const std::string& indent) {
+  for (const auto& node : nodes) {
+    lines.push_back(indent + node->text());
+    addBranch(lines, node->children(), indent + "  ");
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> propertyLines(const forms::Control& control) {
+  std::vector<std::string> lines;
+  const std::string begin = "show " + control.name() + ".";
+  for (const Property property : kProperties) {
+    const std::string value = control.describe(property);
+    if (!value.empty()) lines.push_back(begin + std::string(forms::name(property)) + " " + value);
+  }
+  if (const auto* list = dynamic_cast<const forms::ItemList*>(&control)) {
+    for (std::size_t i = 0; i < list->items().size(); ++i) {
+      lines.push_back(begin + "List(" + std::to_string(i) + ") " + forms::quoted(list->items()[i]));
+    }
+  }
+  return lines;
+}
+
+std::vector<std::string> treeLines(const forms::TreeView& tree) {
+  std::vector<std::string> lines;
+  addBranch(lines, tree.roots(), "");
+  return lines;
+}
+
+}  // namespace headless

@@ -1,0 +1,74 @@
+#include "hosts/headless/headless_files.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/paths.h"
+#include "text/failure.h"
+
+namespace headless {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kPathOrFileAccess = 75;
+
+std::string folded(const std::string& path) {
+  std::string result = platform::foldedFileName(path);
+  std::ranges::replace(result, '/', '\\');
+  return result;
+}
+
+std::string utf8(const fs::path& path) {
+  const std::u8string s = path.u8string();
+  return {s.begin(), s.end()};
+}
+
+}  // namespace
+
+std::string lastName(const std::string& path) {
+  const std::size_t separator = path.find_last_of("\\/");
+  return separator == std::string::npos ? path : path.substr(separator + 1);
+}
+
+void HeadlessFiles::pretendFile(const std::string& path) { pretended_[folded(path)] = lastName(path); }
+
+void HeadlessFiles::pretendNoFile(const std::string& path) { pretended_[folded(path)] = ""; }
+
+std::string HeadlessFiles::lookUp(const std::string& path) {
+  const auto pretended = pretended_.find(folded(path));
+  if (pretended != pretended_.end()) return pretended->second;
+  const fs::path found = platform::machinePath(path);
+  std::error_code ignored;
+  const bool isFile = fs::exists(found, ignored) && !fs::is_directory(found, ignored);
+  return isFile ? utf8(found.filename()) : "";
+}
+
+std::vector<std::string> HeadlessFiles::folders(const std::string& path) {
+  std::vector<std::string> names;
+  std::error_code ignored;
+  const fs::directory_iterator end;
+  for (fs::directory_iterator entry(platform::machinePath(path), ignored); !ignored && entry != end;
+       entry.increment(ignored)) {
+    if (entry->is_directory(ignored)) names.push_back(utf8(entry->path().filename()));
+  }
+  return names;
+}
+
+void HeadlessFiles::copy(const std::string& from, const std::string& to) {
+  const auto pretended = pretended_.find(folded(from));
+  const fs::path source = platform::machinePath(from);
+  std::error_code problem;
+  const bool isMissing = (pretended != pretended_.end() && pretended->second.empty()) || !fs::is_regular_file(source);
+  if (isMissing) throw failures::fileNotFound();
+  const fs::path target = platform::machinePath(to);
+  const bool existed = fs::exists(target, problem);
+  fs::copy_file(source, target, fs::copy_options::overwrite_existing, problem);
+  if (!problem) return;
+  std::error_code ignored;
+  if (!existed) fs::remove(target, ignored);
+  throw Failure(kPathOrFileAccess, problem.message());
+}
+
+}  // namespace headless

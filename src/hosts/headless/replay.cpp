@@ -1,0 +1,161 @@
+#include "hosts/headless/replay.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+#include "hosts/headless/text_lines.h"
+#include "text/failure.h"
+#include "text/utf8.h"
+
+namespace headless {
+namespace {
+
+constexpr std::string_view kAppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
+
+// What is installed where no registry file says otherwise.
+struct Installed {
+  std::string_view program;
+  std::string_view folder;
+  std::string_view executable;
+};
+constexpr std::array kInstalled{
+    Installed{"Mapinfor.exe", "C:\\Archivos de programa\\MapInfo\\ProViewer", "mapinfor.exe"},
+    Installed{"ACRORD32.exe", "C:\\Archivos de programa\\Adobe\\Reader", "ACRORD32.exe"},
+};
+
+constexpr std::string_view kApp = "<app>";
+
+}  // namespace
+
+Replay::Replay(const ReplayOptions& options, EngineHost& engines, Transcript::Sink sink)
+    : applicationFolder_(options.applicationFolder),
+      engineHost_(engines),
+      transcript_(std::move(sink), options.applicationFolder),
+      ports_(
+          {engines.engines(), windows_, registry_, files_, programs_, messages_, dialogs_, options.applicationFolder},
+          recorder_) {
+  transcript_.hush(options.quiet);
+  if (options.registryFile) {
+    registry_.read(*options.registryFile);
+  } else {
+    installDefaults();
+  }
+}
+
+Replay::~Replay() { transcript_.close(); }
+
+void Replay::installDefaults() {
+  for (const Installed& installed : kInstalled) {
+    const std::string folder(installed.folder);
+    registry_.addText(std::string(kAppPaths) + std::string(installed.program), "Path", folder);
+    files_.pretendFile(folder + "\\" + std::string(installed.executable));
+  }
+}
+
+void Replay::run(std::string_view script) {
+  try {
+    forEachTextLine(script, [this](std::string_view line) {
+      try {
+        runLine(line);
+      } catch (const ScriptError& problem) {
+        throw std::invalid_argument(problem.what());
+      }
+    });
+  } catch (const std::invalid_argument& problem) {
+    throw ScriptError(problem.what());
+  }
+}
+
+void Replay::runLine(std::string_view text) {
+  ScriptLine line(text);
+  if (ended_) throw ScriptError("the program has ended");
+  const Verb* verb = findVerb(line.verb());
+  if (verb == nullptr) throw ScriptError("no such verb: " + line.verb());
+  if (!verb->prepares && atlas_ == nullptr) throw ScriptError(line.verb() + ": the program has not been started");
+  transcript_.write(">", "> " + std::string(text));
+  act(*verb, line);
+  noticeEnd();
+}
+
+// Nothing but the end of the program is to leave it.
+void Replay::act(const Verb& verb, ScriptLine& line) {
+  try {
+    verb.action(*this, line);
+  } catch (const platform::ProgramEnd&) {
+    ended_ = true;
+    transcript_.close();
+  } catch (const Failure& failure) {
+    throw UntrappedFailure("a failure left the program: " + std::to_string(failure.number()) + " " +
+                           failure.description());
+  }
+}
+
+// The program is over when none of its windows is left; what it still holds is released with it.
+void Replay::noticeEnd() {
+  if (ended_ || atlas_ == nullptr) return;
+  const auto forms = atlas_->forms();
+  if (std::ranges::any_of(forms, [](const forms::Form* form) { return form->isLoaded(); })) return;
+  ended_ = true;
+  atlas_.reset();
+}
+
+std::string Replay::path(const std::string& written) const {
+  return written.starts_with(kApp) ? applicationFolder_ + written.substr(kApp.size()) : written;
+}
+
+forms::Form* Replay::findForm(const std::string& name) const {
+  const auto forms = atlas_->forms();
+  const auto found = std::ranges::find_if(
+      forms, [&](const forms::Form* form) { return text::equalsIgnoringCase(form->name(), name); });
+  return found == forms.end() ? nullptr : *found;
+}
+
+forms::Form& Replay::form(const std::string& name) const {
+  forms::Form* form = findForm(name);
+  if (form == nullptr) throw ScriptError("there is no form " + name + " yet");
+  return *form;
+}
+
+// FORM, FORM.CONTROL, or a control of the main window, else of any other.
+forms::Control* Replay::findControl(const std::string& name) const {
+  if (const std::size_t dot = name.find('.'); dot != std::string::npos) {
+    const forms::Form* form = findForm(name.substr(0, dot));
+    return form == nullptr ? nullptr : form->find(name.substr(dot + 1));
+  }
+  if (forms::Form* form = findForm(name)) return form;
+  if (const forms::Form* main = findForm(kMainForm)) {
+    if (forms::Control* control = main->find(name)) return control;
+  }
+  for (const forms::Form* form : atlas_->forms()) {
+    if (forms::Control* control = form->find(name)) return control;
+  }
+  return nullptr;
+}
+
+forms::Control& Replay::control(ScriptLine& line) const {
+  const std::string& name = line.text("the control");
+  forms::Control* control = findControl(name);
+  if (control == nullptr) throw ScriptError("there is no control " + name + " yet");
+  return *control;
+}
+
+forms::Control& Replay::indexedControl(ScriptLine& line) const {
+  std::string name = line.text("the control");
+  if (line.hasMore()) name.append("(").append(std::to_string(line.wholeNumber("the index"))).append(")");
+  line.finish();
+  forms::Control* control = findControl(name);
+  if (control == nullptr) throw ScriptError("there is no control " + name + " yet");
+  return *control;
+}
+
+const std::set<std::string>& lineKinds() {
+  static const std::set<std::string> kinds{
+      ">",        "do",         "eval",        "error", "create", "release", "callback-set", "call",
+      "dir",      "regopen",    "regquery",    "shell", "copy",   "msgbox",  "form",         "zorder",
+      "parent",   "findwindow", "closewindow", "set",   "add",    "node",    "nodeset",      "clear",
+      "navigate", "help",       "savedialog",  "end",   "show",   "tree"};
+  return kinds;
+}
+
+}  // namespace headless

@@ -1,0 +1,121 @@
+#include "hosts/headless/replay.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "hosts/headless/scripted_engine.h"
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class ReplayTest : public ::testing::Test {
+ protected:
+  Lines lines;
+  headless::ScriptedEngines engines{"eval WindowID(1) => 424242\neval frontwindow() => 424242\n"};
+
+  // The folder holds no study: every workspace is missing.
+  static std::string emptyFolder() {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "veldoria_replay_test";
+    std::filesystem::create_directories(folder);
+    return folder.string();
+  }
+
+  // What is wrong with a script; "" when nothing is.
+  std::string run(const std::string& script, const std::set<std::string>& quiet = {}) {
+    lines.clear();
+    headless::ReplayOptions options;
+    options.applicationFolder = emptyFolder();
+    options.quiet = quiet;
+    headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
+    try {
+      replay.run(script);
+    } catch (const headless::ScriptError& problem) {
+      return problem.what();
+    }
+    return "";
+  }
+};
+
+TEST_F(ReplayTest, SaysWhatIsWrongAndWhere) {
+  struct Case {
+    const char* script;
+    const char* problem;
+  };
+  for (const Case& c : {
+           Case{"# nothing\n\n  jump\n", "line 3: no such verb: jump"},
+           Case{"tick", "line 1: tick: the program has not been started"},
+           Case{"start\nstart", "line 2: the program has been started already"},
+           Case{"start now", "line 1: start: too many words, from \"now\" on"},
+           Case{"start\nclose frmInicio\ntick", "line 3: the program has ended"},
+           Case{"fail \"create *\" x", "line 1: fail: the number is no whole number: x"},
+           Case{"fail", "line 1: fail: the pattern is missing"},
+           Case{"failat 0 91", "line 1: failat: engine calls are counted from 1"},
+           Case{"answer maybe", "line 1: no button: maybe (ok, yes or no)"},
+           Case{"start\nclose", "line 2: there is no form frmPrincipal yet"},
+           Case{"start\ntree", "line 2: there is no tree yet"},
+           Case{"start\nclick Nada", "line 2: there is no control Nada yet"},
+           Case{"start\ntick\nclick Image2 4", "line 3: there is no control Image2(4) yet"},
+           Case{"start\ntick\nclick TreeView1", "line 3: TreeView1 cannot be clicked"},
+           Case{"start\ntick\nselect Ficha Nada",
+                "line 3: Ficha has no Nada; it has \"Tablas\", \"Mapas\", \"Datos\", \"Veldoria\""},
+           Case{"start\ntick\nmapclick 1 2", "line 3: there is no map to click on"},
+           Case{"start\ntick\ncallback Info MI:1,2", "line 3: there is no engine to call back"},
+           Case{"start\ntick\nresize 1 x", "line 3: resize: the height is no number: x"},
+           Case{"start \"", "line 1: a quoted text is not closed"},
+       }) {
+    EXPECT_EQ(run(c.script), c.problem) << c.script;
+  }
+}
+
+// Whatever a script is cut to, it is run or refused with its line.
+TEST_F(ReplayTest, AnyCutOfAScriptIsRunOrRefused) {
+  const std::string script =
+      "fail \"do x\"\"y\" -5 \"t u\"\nanswer no\nstart\ndoubleclick frmInicio\nresize 9000 8000.5\nselect Ficha "
+      "Tablas\n"
+      "select ComboTabla #1\nclick Image2 3\ntype txtBuscar \"a b\"\nmousemove FichaAños\nshow Ficha\ntree\nclose\n";
+  EXPECT_EQ(run(script), "");
+  for (std::size_t end = 0; end < script.size(); ++end) {
+    const std::string problem = run(script.substr(0, end));
+    EXPECT_TRUE(problem.empty() || problem.starts_with("line ")) << script.substr(0, end);
+  }
+}
+
+TEST_F(ReplayTest, WritesWhatWasDoneBeforeTheMistake) {
+  EXPECT_NE(run("start\njump"), "");
+  EXPECT_EQ(lines, (Lines{"> start", "form frmInicio load", "form frmInicio show"}));
+}
+
+TEST_F(ReplayTest, KindsOfLinesCanBeLeftOut) {
+  EXPECT_EQ(run("start\nshow frmInicio\nclose frmInicio", {">", "show"}), "");
+  EXPECT_EQ(lines, (Lines{"form frmInicio load", "form frmInicio show", "form frmInicio unload"}));
+}
+
+TEST_F(ReplayTest, ControlsAreFoundByTheirFormToo) {
+  EXPECT_EQ(run("start\ntick\nmousemove frmPrincipal.LblEstadisticas\nmousemove lblinformacion", {"form", "set"}), "");
+  EXPECT_EQ(run("start\ntick\nshow frmInicio.Timer1\nshow Timer1"), "");
+  EXPECT_NE(run("start\ntick\nshow frmInicio.Ficha"), "");
+}
+
+TEST_F(ReplayTest, NothingIsWrittenOfWhatGoesAfterTheScript) {
+  EXPECT_EQ(run("start\ntick\nfile <app>\\Tablas\\1999\\Año1999.wor\nselect Ficha Tablas\nselect Ficha Tablas"), "");
+  EXPECT_EQ(std::count_if(lines.begin(), lines.end(), [](const std::string& l) { return l.starts_with("release"); }),
+            0);
+}
+
+TEST_F(ReplayTest, ARegistryFileReplacesWhatIsInstalled) {
+  headless::ReplayOptions options;
+  options.applicationFolder = emptyFolder();
+  options.registryFile = "a|b|c|d";
+  EXPECT_THROW(headless::Replay(options, engines, [](const std::string&) {}), std::invalid_argument);
+  options.registryFile = "";
+  headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
+  replay.run("start\ntick");
+  EXPECT_EQ(lines.back(), "end");
+  EXPECT_THROW(replay.run("tick"), headless::ScriptError);
+}
+
+}  // namespace

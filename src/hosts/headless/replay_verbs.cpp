@@ -1,0 +1,173 @@
+#include <algorithm>
+#include <array>
+
+#include "hosts/headless/control_report.h"
+#include "hosts/headless/replay.h"
+#include "hosts/headless/user.h"
+
+// The verbs of the script language, one entry each.
+namespace headless {
+namespace {
+
+constexpr const char* kTree = "TreeView1";
+
+platform::Button button(const std::string& name) {
+  if (name == "ok") return platform::Button::ok;
+  if (name == "yes") return platform::Button::yes;
+  if (name == "no") return platform::Button::no;
+  throw ScriptError("no button: " + name + " (ok, yes or no)");
+}
+
+}  // namespace
+
+const Replay::Verb* Replay::findVerb(const std::string& name) {
+  static constexpr std::array kVerbs = std::to_array<Verb>({
+      {"start", true,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         if (r.atlas_ != nullptr) throw ScriptError("the program has been started already");
+         r.atlas_ = std::make_unique<atlas::Atlas>(r.ports_.ports(), r.recordingListener_);
+         r.atlas_->Main();
+       }},
+      {"tick", false,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         for (const forms::Form* form : r.atlas_->forms()) user::tick(*form);
+       }},
+      {"doubleclick", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Form& form = r.form(line.text("the form"));
+         line.finish();
+         form.userDoubleClick();
+       }},
+      {"close", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Form& form = r.form(line.hasMore() ? line.text("the form") : kMainForm);
+         line.finish();
+         form.userClose();
+       }},
+      {"resize", false,
+       [](Replay& r, ScriptLine& line) {
+         const double width = line.number("the width");
+         const double height = line.number("the height");
+         line.finish();
+         r.form(kMainForm).userResize(width, height);
+       }},
+      {"minimize", false,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         r.form(kMainForm).userMinimize();
+       }},
+      {"restore", false,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         r.form(kMainForm).userRestore();
+       }},
+      {"click", false, [](Replay& r, ScriptLine& line) { user::click(r.indexedControl(line)); }},
+      {"select", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Control& control = r.control(line);
+         const Word& what = line.word("the item");
+         line.finish();
+         user::select(control, what);
+       }},
+      {"focus", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Control& control = r.control(line);
+         line.finish();
+         control.userFocus();
+       }},
+      {"mouseup", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Control& control = r.control(line);
+         line.finish();
+         user::release(control);
+       }},
+      {"mousemove", false, [](Replay& r, ScriptLine& line) { r.indexedControl(line).userMouseMove(); }},
+      {"type", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Control& control = r.control(line);
+         const std::string& text = line.text("the text");
+         line.finish();
+         user::type(control, text);
+       }},
+      {"mapclick", false,
+       [](Replay& r, ScriptLine& line) {
+         const std::string& x = line.text("x");
+         const std::string& y = line.text("y");
+         line.finish();
+         if (!r.engineHost_.clickMap(x, y)) throw ScriptError("there is no map to click on");
+       }},
+      {"callback", false,
+       [](Replay& r, ScriptLine& line) {
+         const std::string& method = line.text("the method");
+         const std::string& message = line.text("the message");
+         line.finish();
+         const auto engine = r.ports_.engines().current();
+         if (engine == nullptr) throw ScriptError("there is no engine to call back");
+         if (!engine->callBack(method, message)) throw ScriptError("no callback method " + method);
+       }},
+      {"answer", true,
+       [](Replay& r, ScriptLine& line) {
+         r.messages_.prepare(button(line.text("the button")));
+         line.finish();
+       }},
+      {"savename", true,
+       [](Replay& r, ScriptLine& line) {
+         r.dialogs_.prepareName(r.path(line.text("the name")));
+         line.finish();
+       }},
+      {"savecancel", true,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         r.dialogs_.prepareCancel();
+       }},
+      {"locationname", true,
+       [](Replay& r, ScriptLine& line) {
+         r.listener_.setLocationName(line.text("the name"));
+         line.finish();
+       }},
+      {"file", true,
+       [](Replay& r, ScriptLine& line) {
+         r.files_.pretendFile(r.path(line.text("the path")));
+         line.finish();
+       }},
+      {"nofile", true,
+       [](Replay& r, ScriptLine& line) {
+         r.files_.pretendNoFile(r.path(line.text("the path")));
+         line.finish();
+       }},
+      {"fail", true,
+       [](Replay& r, ScriptLine& line) {
+         const std::string pattern = line.text("the pattern");
+         const int number = line.wholeNumber("the number");
+         const std::string description = line.hasMore() ? line.text("the text") : "";
+         line.finish();
+         r.faults_.failNext(pattern, failureNumbered(number, description));
+       }},
+      {"failat", true,
+       [](Replay& r, ScriptLine& line) {
+         const int call = line.wholeNumber("the engine call");
+         const int number = line.wholeNumber("the number");
+         const std::string description = line.hasMore() ? line.text("the text") : "";
+         line.finish();
+         if (call < 1) throw ScriptError("failat: engine calls are counted from 1");
+         r.faults_.failEngineCall(call, failureNumbered(number, description));
+       }},
+      {"show", false,
+       [](Replay& r, ScriptLine& line) {
+         for (const std::string& text : propertyLines(r.indexedControl(line))) r.transcript_.write(text);
+       }},
+      {"tree", false,
+       [](Replay& r, ScriptLine& line) {
+         line.finish();
+         const auto* tree = dynamic_cast<forms::TreeView*>(r.findControl(kTree));
+         if (tree == nullptr) throw ScriptError("there is no tree yet");
+         for (const std::string& text : treeLines(*tree)) r.transcript_.write("tree", text);
+       }},
+  });
+  const auto found = std::ranges::find(kVerbs, name, &Verb::name);
+  return found == kVerbs.end() ? nullptr : &*found;
+}
+
+}  // namespace headless

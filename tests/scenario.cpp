@@ -1,0 +1,89 @@
+#include "scenario.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/scripted_engine.h"
+
+namespace scenarios {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto kCopy = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
+
+std::string utf8(const fs::path& path) {
+  const std::u8string s = path.u8string();
+  return {s.begin(), s.end()};
+}
+
+}  // namespace
+
+std::vector<std::string> names() {
+  std::vector<std::string> result;
+  for (const auto& entry : fs::directory_iterator(VELDORIA_SCENARIOS)) {
+    if (entry.path().extension() == ".replay") result.push_back(entry.path().stem().string());
+  }
+  std::ranges::sort(result);
+  return result;
+}
+
+fs::path file(const std::string& name, const std::string& ending) {
+  return fs::path(VELDORIA_SCENARIOS) / (name + ending);
+}
+
+std::string contentsOf(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) throw std::runtime_error("cannot read " + utf8(file));
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+Lines linesOf(const std::string& text) {
+  Lines lines;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find('\n', at), text.size());
+    lines.push_back(text.substr(at, end - at));
+    at = end + 1;
+  }
+  return lines;
+}
+
+Study::Study(const std::string& name) : folder_(fs::canonical(fs::path(VELDORIA_SCENARIOS) / "tiny")) {
+  const fs::path own = file(name, ".app");
+  const bool saves = contentsOf(file(name, ".replay")).find("savename") != std::string::npos;
+  if (!saves && !fs::is_directory(own)) return;
+  std::string pattern = (fs::temp_directory_path() / ("veldoria-" + name + "-XXXXXX")).string();
+  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("cannot make a folder " + pattern);
+  fs::copy(folder_, pattern, kCopy);
+  folder_ = fs::canonical(pattern);
+  isCopy_ = true;
+  if (fs::is_directory(own)) fs::copy(own, folder_, kCopy);
+}
+
+Study::~Study() {
+  std::error_code ignored;
+  if (isCopy_) fs::remove_all(folder_, ignored);
+}
+
+std::string Study::folder() const { return utf8(folder_); }
+
+Run::Run(const std::string& name, const Study& study) {
+  if (const fs::path engine = file(name, ".engine"); fs::exists(engine)) {
+    engines_ = std::make_unique<headless::ScriptedEngines>(contentsOf(engine));
+  } else {
+    engines_ = std::make_unique<headless::EmbeddedEngine>(study.folder());
+  }
+  headless::ReplayOptions options;
+  options.applicationFolder = study.folder();
+  if (const fs::path registry = file(name, ".registry"); fs::exists(registry)) {
+    options.registryFile = contentsOf(registry);
+  }
+  replay_ = std::make_unique<headless::Replay>(options, *engines_,
+                                               [this](const std::string& line) { transcript_.push_back(line); });
+}
+
+}  // namespace scenarios

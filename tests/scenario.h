@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "hosts/headless/replay.h"
+
+// A scenario: a replay script NAME.replay with the transcript that it must give, NAME.golden. It runs on a copy of the
+// tiny study; NAME.app, where there is one, is copied over it. With NAME.engine the map engine is scripted, else it is
+// the embedded one; NAME.registry says what is installed.
+namespace scenarios {
+
+using Lines = std::vector<std::string>;
+
+// The names of all scenarios, sorted.
+[[nodiscard]] std::vector<std::string> names();
+
+// Where a scenario keeps the file of that ending, which need not exist.
+[[nodiscard]] std::filesystem::path file(const std::string& name, const std::string& ending);
+
+// The file's text. Throws when it cannot be read.
+[[nodiscard]] std::string contentsOf(const std::filesystem::path& file);
+[[nodiscard]] Lines linesOf(const std::string& text);
+
+// The folder of the scenario's study: the tiny study itself, or a copy, gone with the object, where the scenario
+// changes it.
+class Study {
+ public:
+  explicit Study(const std::string& name);
+  ~Study();
+  Study(const Study&) = delete;
+  Study& operator=(const Study&) = delete;
+  [[nodiscard]] std::string folder() const;
+
+ private:
+  std::filesystem::path folder_;
+  bool isCopy_ = false;
+};
+
+// One run of a scenario's program: a replay with the engine and the registry that belong to it. `study` outlives it.
+class Run {
+ public:
+  Run(const std::string& name, const Study& study);
+
+  [[nodiscard]] headless::Replay& replay() { return *replay_; }
+  // What was written so far.
+  [[nodiscard]] const Lines& transcript() const { return transcript_; }
+
+ private:
+  Lines transcript_;
+  std::unique_ptr<headless::EngineHost> engines_;
+  std::unique_ptr<headless::Replay> replay_;
+};
+
+}  // namespace scenarios

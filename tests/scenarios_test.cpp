@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "scenario.h"
+
+// Runs every scenario and compares its transcript with the golden one, line by line. With VELDORIA_UPDATE_GOLDEN=1 in
+// the environment the golden transcripts are written anew instead; what has changed is then read before it is kept.
+namespace {
+
+using scenarios::Lines;
+
+bool updatesGolden() {
+  const char* value = std::getenv("VELDORIA_UPDATE_GOLDEN");
+  return value != nullptr && std::string(value) == "1";
+}
+
+Lines transcriptOf(const std::string& name) {
+  const scenarios::Study study(name);
+  scenarios::Run run(name, study);
+  run.replay().run(scenarios::contentsOf(scenarios::file(name, ".replay")));
+  return run.transcript();
+}
+
+// The lines around the first one that differs.
+std::string firstDifference(const Lines& expected, const Lines& actual) {
+  const auto [e, a] = std::ranges::mismatch(expected, actual);
+  const std::ptrdiff_t at = e - expected.begin();
+  std::string report = "line " + std::to_string(at + 1) + "\n";
+  for (std::ptrdiff_t i = std::max<std::ptrdiff_t>(0, at - 5); i < at; ++i) {
+    report += "    " + expected[static_cast<std::size_t>(i)] + "\n";
+  }
+  report += "  - " + (e == expected.end() ? "(nothing more)" : *e) + "\n";
+  report += "  + " + (a == actual.end() ? "(nothing more)" : *a) + "\n";
+  return report;
+}
+
+class Scenario : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(Scenario, GivesItsGoldenTranscript) {
+  const Lines actual = transcriptOf(GetParam());
+  const auto golden = scenarios::file(GetParam(), ".golden");
+  if (updatesGolden()) {
+    std::ofstream out(golden, std::ios::binary);
+    for (const std::string& line : actual) out << line << '\n';
+    return;
+  }
+  const Lines expected = scenarios::linesOf(scenarios::contentsOf(golden));
+  EXPECT_TRUE(expected == actual) << firstDifference(expected, actual);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(scenarios::names()),
+                         [](const auto& scenario) { return scenario.param; });
+
+}  // namespace
