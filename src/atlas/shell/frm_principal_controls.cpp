@@ -14,6 +14,7 @@ constexpr forms::Color kWhite = 0xFFFFFF;
 constexpr forms::Color kStage = 0xE6EEF1;
 
 constexpr forms::Twips kHeaderHeight = 600;  // of the header with the side menu
+constexpr forms::Twips kMenuTop = 30;
 constexpr forms::Twips kTabsTop = 645;
 constexpr forms::Twips kTabsLeft = 150;
 constexpr forms::Twips kMapLeft = kTabsLeft + 250;
@@ -73,13 +74,13 @@ void FrmPrincipal::defineSideMenu() {
        {Entry{LblPresentación, "Presentación", 300, 1500}, Entry{LblInformacion, "Información", 1950, 1350},
         Entry{LblEstadisticas, "Estadísticas de mortalidad", 3450, 2950}, Entry{LblSalir, "Salir", 6700, 700}}) {
     entry.label.setCaption(entry.caption);
-    entry.label.place(entry.left, 180, entry.width, 255);
+    entry.label.place(entry.left, kMenuTop, entry.width, kHeaderHeight - kMenuTop);
     entry.label.foreColor = kWhite;
   }
 
   // Each pop-up frame begins where its label ends, so that the pointer gets from one to the other.
-  Submenu.place(3450, 435, 1700, 960);
-  SubMenu2.place(1950, 435, 2400, 960);
+  Submenu.place(3450, kHeaderHeight, 1700, 960);
+  SubMenu2.place(1950, kHeaderHeight, 2400, 960);
   struct PopUpEntry {
     forms::Frame& frame;
     forms::Label& label;
@@ -105,7 +106,7 @@ void FrmPrincipal::defineTreeSide() {
   Image1.picture = "encabezado";
   Image1.accessibleName = "Indicadores";
   Image1.setVisible(false);
-  ImageEscudo.place(12369, 10607, 330, 400);
+  ImageEscudo.place(12369, 10667, 330, 400);
   ImageEscudo.picture = "escudo";
   ImageEscudo.accessibleName = "Escudo de Veldoria";
 
@@ -183,11 +184,11 @@ void FrmPrincipal::defineTableSelectors() {
        {"Años de vida potencialmente perdidos  y Tasas de AVPP por provincias",
         "Defunciones y Tasas específicas por provincias", "Distribución de defunciones por provincias",
         "Indicadores principales por provincias", "Indicadores principales por zonas básicas de salud"}},
-      {ComboTipo, "Tipo", "Tipo", 7215, 1800, {"Grandes grupos", "Lista reducida"}},
-      {ComboProvincia, "Provincia", "Provincia", 9080, 2000,
+      {ComboTipo, "Tipo", "Tipo", 7215, 1950, {"Grandes grupos", "Lista reducida"}},
+      {ComboProvincia, "Provincia", "Provincia", 9230, 2000,
        catalogueFrames(atlas_.ports.files, atlas_.ports.applicationFolder)},
-      {ComboSexo, "Sexo", "Sexo", 11145, 1650, {"Ambos sexos", "Mujeres", "Hombres"}},
-      {ComboAño, "Año", "Año", 12860, 1000, {"1999", "2000", "2001", "2002"}},
+      {ComboSexo, "Sexo", "Sexo", 11295, 1650, {"Ambos sexos", "Mujeres", "Hombres"}},
+      {ComboAño, "Año", "Año", 13010, 1000, {"1999", "2000", "2001", "2002"}},
   };
   for (const Selector& selector : selectors) {
     for (const std::string& item : selector.items) selector.combo.addItem(item);
@@ -201,11 +202,11 @@ void FrmPrincipal::defineTableSelectors() {
   imgBuscaTabla.toolTipText = "Ver la Tabla";
   imgBuscaTabla.picture = "ver-tabla";
   imgBuscaTabla.putInto(Ficha, 0);
-  imgBuscaTabla.place(13940, kToolRowTop, kToolSize, kToolSize);
+  imgBuscaTabla.place(14090, kToolRowTop, kToolSize, kToolSize);
   ImgExportar.toolTipText = "Exportar Tabla";
   ImgExportar.picture = "exportar";
   ImgExportar.putInto(Ficha, 0);
-  ImgExportar.place(13940 + kToolStep, kToolRowTop, kToolSize, kToolSize);
+  ImgExportar.place(14090 + kToolStep, kToolRowTop, kToolSize, kToolSize);
 }
 
 void FrmPrincipal::defineToolbars() {
@@ -216,7 +217,7 @@ void FrmPrincipal::defineToolbars() {
 
   lblinfo.setCaption("<- Seleccione mapa");
   lblinfo.putInto(Ficha, 1);
-  lblinfo.place(150 + 12 * kToolStep + 45, kToolRowTop + 75, 2000, 240);
+  lblinfo.place(150 + 12 * kToolStep + 45, kToolRowTop + 60, 2000, 240);
 
   // Two lines beside the row.
   lblVeldoria.setCaption("Haga clic en el fondo del mapa para ver la información de Veldoria.");

@@ -81,7 +81,7 @@ void FrmPrincipal::placeTreeSide() {
   txtespere1.setTop(TreeView1.top() + (TreeView1.height() - txtespere1.height()) / 2);
   lblComando.setTop(txtEspere.top() + txtEspere.height() + 60);
   lblComando.setLeft(txtEspere.left() + 180);
-  ImageEscudo.setTop(Ficha.top() + Ficha.height() + 170);
+  ImageEscudo.setTop(Ficha.top() + Ficha.height() + 230);
   ImageEscudo.setLeft(centredOnShape(ImageEscudo));
   FichaConsultasDatos.setTop(Ficha.top() + Ficha.height() - FichaConsultasDatos.height());
   FichaConsultasDatos.setLeft(centredOnShape(FichaConsultasDatos));

@@ -34,7 +34,7 @@ TEST_F(Layout, MapTabsAt20000By10000) {
   EXPECT_DOUBLE_EQ(f.lblComando.left(), 13480);
   EXPECT_DOUBLE_EQ(f.lblComando.top(), 6345);
   EXPECT_DOUBLE_EQ(f.ImageEscudo.left() + f.ImageEscudo.width() / 2, 16200);
-  EXPECT_DOUBLE_EQ(f.ImageEscudo.top(), 9315);
+  EXPECT_DOUBLE_EQ(f.ImageEscudo.top(), 9375);
   expectPlace(f.FichaConsultasDatos, 14000, 6545, 4400, 2600);
   expectPlace(f.Internet, 425, 1435, 12250, 7680);
 }
