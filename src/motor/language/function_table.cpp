@@ -74,6 +74,4 @@ const FunctionTable::Function& FunctionTable::find(const FunctionCall& function)
   return found->second;
 }
 
-bool FunctionTable::knows(std::string_view name) const { return functions_.contains(text::lower(name)); }
-
 }  // namespace motor

@@ -87,7 +87,6 @@ class FunctionTable {
   [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const {
     return find(function).call(function, arguments);
   }
-  [[nodiscard]] bool knows(std::string_view name) const;
 
  private:
   std::map<std::string, Function, std::less<>> functions_;  // by name in lower case

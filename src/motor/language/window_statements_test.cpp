@@ -52,7 +52,8 @@ TEST(MenuStatementsTest, createMenus) {
   ASSERT_EQ(menu.items.size(), 4U);
   EXPECT_EQ(shown(menu.items[0].text), "&Ver Toda la Capa...");
   EXPECT_EQ(shown(menu.items[0].calling.command), "807");
-  EXPECT_TRUE(menu.items[2].calling.isNothing());
+  EXPECT_FALSE(menu.items[2].calling.command);
+  EXPECT_EQ(menu.items[2].calling.method, "");
   EXPECT_EQ(menu.items[3].calling.method, "borraseleccion");
   EXPECT_EQ(shown(menu.items[3].id), "5");
 }

@@ -58,8 +58,6 @@ RowId Cursors::row(std::string_view name) const {
   return cursor.row;
 }
 
-bool Cursors::hasRow(std::string_view name) const { return find(name).row != 0; }
-
 Cursors::Cursor& Cursors::find(std::string_view name) {
   return const_cast<Cursor&>(static_cast<const Cursors&>(*this).find(name));
 }

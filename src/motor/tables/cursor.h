@@ -33,7 +33,6 @@ class Cursors {
 
   // The current row. Throws EngineError when there is none.
   [[nodiscard]] RowId row(std::string_view name) const;
-  [[nodiscard]] bool hasRow(std::string_view name) const;
 
   // The place itself, which stays where it is until the name is closed. Throws EngineError when it is not open.
   [[nodiscard]] const Cursor& at(std::string_view name) const { return find(name); }

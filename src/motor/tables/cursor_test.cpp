@@ -48,14 +48,14 @@ TEST_F(CursorsTest, haveNoRowBeyondTheEnds) {
   cursors_.fetch("tabla", Fetch::Target::last);
   cursors_.fetch("tabla", Fetch::Target::next);
   EXPECT_TRUE(cursors_.atEnd("tabla"));
-  EXPECT_FALSE(cursors_.hasRow("tabla"));
+  EXPECT_EQ(cursors_.at("tabla").row, 0U);
   EXPECT_THROW(static_cast<void>(cursors_.row("tabla")), EngineError);
   cursors_.fetch("tabla", Fetch::Target::next);
   EXPECT_TRUE(cursors_.atEnd("tabla"));
   cursors_.fetch("tabla", Fetch::Target::first);
   EXPECT_FALSE(cursors_.atEnd("tabla"));
   cursors_.fetch("tabla", Fetch::Target::previous);
-  EXPECT_FALSE(cursors_.hasRow("tabla"));
+  EXPECT_EQ(cursors_.at("tabla").row, 0U);
 }
 
 TEST_F(CursorsTest, rejectRowsThatAreNotThere) {
@@ -80,7 +80,7 @@ TEST_F(CursorsTest, ofResultsMoveTheTableBehind) {
   EXPECT_TRUE(cursors_.atEnd("selection"));
   EXPECT_EQ(cursors_.row("tabla"), 1U);
   cursors_.fetch("tabla", Fetch::Target::next);
-  EXPECT_FALSE(cursors_.hasRow("selection"));
+  EXPECT_EQ(cursors_.at("selection").row, 0U);
 }
 
 TEST_F(CursorsTest, ofAnEmptyResultAreAtTheEnd) {

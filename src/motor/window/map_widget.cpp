@@ -63,7 +63,7 @@ void MapWidget::detach() {
 }
 
 void MapWidget::fillParent() {
-  if (!filler_) filler_.emplace(*this);
+  filler_.emplace(*this);  // anew, since the map may have been given another size meanwhile
   reportSize();
 }
 

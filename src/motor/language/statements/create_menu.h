@@ -8,9 +8,7 @@ namespace motor {
 struct Calling {
   Position position;
   ExpressionPtr command;  // Calling n
-  std::string method;     // Calling OLE "method"
-
-  [[nodiscard]] bool isNothing() const { return !command && method.empty(); }
+  std::string method;     // Calling OLE "method"; an entry that calls nothing has neither
 };
 
 struct MenuItem {
