@@ -10,7 +10,8 @@ namespace platform {
 class Variant {
  public:
   Variant() = default;
-  Variant(std::string text) : value_(std::move(text)) {}    // NOLINT(google-explicit-constructor)
+  Variant(const std::string& text) : value_(text) {}        // NOLINT(google-explicit-constructor)
+  Variant(std::string&& text) : value_(std::move(text)) {}  // NOLINT(google-explicit-constructor)
   Variant(const char* text) : value_(std::string(text)) {}  // NOLINT(google-explicit-constructor)
   Variant(double number) : value_(number) {}                // NOLINT(google-explicit-constructor)
 

@@ -4,7 +4,12 @@
 
 namespace motor {
 
-std::string Value::toText() const {
+std::string Value::toText() && {
+  if (auto* s = std::get_if<std::string>(&value_)) return std::move(*s);
+  return static_cast<const Value&>(*this).toText();
+}
+
+std::string Value::toText() const& {
   if (const bool* b = logical()) return *b ? "T" : "F";
   if (const double* n = number()) return text::number(*n);
   if (const std::string* s = text()) return *s;

@@ -30,7 +30,8 @@ class Value {
 
   // As `Eval` returns it: "T" or "F", shortest digits with ".", the text itself; nothing is "". An object has no text
   // and gives "".
-  [[nodiscard]] std::string toText() const;
+  [[nodiscard]] std::string toText() const&;
+  [[nodiscard]] std::string toText() &&;
 
   [[nodiscard]] bool operator==(const Value&) const = default;
 

@@ -38,14 +38,32 @@ class PreparedExpression::BoundScope final : public Scope {
   const FunctionTable& functions_;
 };
 
-PreparedExpression::PreparedExpression(const std::string& text) : expression_(parseExpression(text)) {}
+PreparedExpression::PreparedExpression(const std::string& text) : expression_(parseExpression(text)) {
+  const auto* name = dynamic_cast<const NameReference*>(expression_.get());
+  if (name != nullptr && !name->table().empty()) column_ = name;
+}
 
-Value PreparedExpression::evaluate(const SessionState& session) const {
+const ColumnBinding* PreparedExpression::boundColumn(const SessionState& session) const {
   if (generation_ != session.tables.generation()) {
     bindings_.clear();
     generation_ = session.tables.generation();
   }
-  return expression_->evaluate(BoundScope(*this, session));
+  if (column_ == nullptr) return nullptr;
+  if (bindings_.empty()) bindings_.emplace_back(column_, session.scope.bind(*column_));
+  return &bindings_.front().second;
+}
+
+Value PreparedExpression::evaluate(const SessionState& session) const {
+  const ColumnBinding* column = boundColumn(session);
+  return column == nullptr ? expression_->evaluate(BoundScope(*this, session)) : session.scope.read(*column);
+}
+
+std::string PreparedExpression::evaluateToText(const SessionState& session) const {
+  const ColumnBinding* column = boundColumn(session);
+  if (column != nullptr) {
+    if (const std::string* text = session.scope.readText(*column)) return *text;
+  }
+  return evaluate(session).toText();
 }
 
 }  // namespace motor

@@ -29,16 +29,18 @@ Session::~Session() = default;
 
 void Session::run(const std::string& statements) {
   atPort(*state_, [&] {
-    const auto program = state_->programs.get(statements, [](const std::string& s) { return parseProgram(s); });
+    // A copy: a statement may run a text of its own, or call back into the program.
+    const TextCache<std::vector<Statement>>::Pointer program =
+        state_->programs.get(statements, [](const std::string& s) { return parseProgram(s); });
     state_->run(*program);
   });
 }
 
 platform::Variant Session::eval(const std::string& expression) {
   return atPort(*state_, [&] {
-    const auto prepared =
+    const auto& prepared =
         state_->expressions.get(expression, [](const std::string& s) { return PreparedExpression(s); });
-    return platform::Variant(prepared->evaluate(*state_).toText());
+    return platform::Variant(prepared->evaluateToText(*state_));
   });
 }
 

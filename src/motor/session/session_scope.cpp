@@ -66,6 +66,12 @@ Value SessionScope::read(const ColumnBinding& binding) const {
   return {};
 }
 
+const std::string* SessionScope::readText(const ColumnBinding& binding) const {
+  const Cursors::Cursor& cursor = *binding.cursor;
+  if (cursor.row == 0 || binding.kind != ColumnBinding::Kind::column) return nullptr;
+  return cursor.table->text(cursor.row, binding.column);
+}
+
 Value SessionScope::objectInSession(const Table& table, const ObjectPtr& object) const {
   if (!object || table.coordinateSystem() == session_.coordinateSystem) return object;
   if (object != source_ || !(system_ == session_.coordinateSystem)) {

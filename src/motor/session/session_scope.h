@@ -36,6 +36,8 @@ class SessionScope : public Scope {
   [[nodiscard]] ColumnBinding bind(const NameReference& reference) const;
   // Throws EngineError when the table has no current row.
   [[nodiscard]] Value read(const ColumnBinding& binding) const;
+  // The field where it is kept, without a copy; null where `read` is to be asked.
+  [[nodiscard]] const std::string* readText(const ColumnBinding& binding) const;
 
  private:
   [[nodiscard]] Value objectInSession(const Table& table, const ObjectPtr& object) const;

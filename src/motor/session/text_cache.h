@@ -13,17 +13,16 @@ class TextCache {
  public:
   using Pointer = std::shared_ptr<const T>;
 
-  // `make(text)` gives the value of a text that is not known yet; what it throws passes through and nothing is kept.
+  // `make(text)` gives the value of a text that is not known yet; what it throws passes through and nothing is kept. The
+  // reference is good until the next call; copy it where the value may be needed for longer.
   template <typename Make>
-  [[nodiscard]] Pointer get(const std::string& text, Make make) {
+  [[nodiscard]] const Pointer& get(const std::string& text, Make make) {
     const auto found = values_.find(text);
     if (found != values_.end()) return found->second;
     Pointer value = std::make_shared<const T>(make(text));
-    if (text.size() <= kLongest) {
-      if (values_.size() >= kMost) values_.clear();
-      values_.emplace(text, value);
-    }
-    return value;
+    if (text.size() > kLongest) return unkept_ = std::move(value);
+    if (values_.size() >= kMost) values_.clear();
+    return values_.emplace(text, std::move(value)).first->second;
   }
 
   void clear() { values_.clear(); }
@@ -33,6 +32,7 @@ class TextCache {
   static constexpr std::size_t kMost = 500;
 
   std::unordered_map<std::string, Pointer> values_;
+  Pointer unkept_;  // made last of a long text
 };
 
 }  // namespace motor

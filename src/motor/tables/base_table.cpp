@@ -25,6 +25,11 @@ Value BaseTable::value(RowId row, std::size_t column) const {
   return number;
 }
 
+const std::string* BaseTable::text(RowId row, std::size_t column) const {
+  const TextColumn* texts = textColumn(column);
+  return texts == nullptr ? nullptr : &texts->text(row);
+}
+
 const ObjectPtr& BaseTable::object(RowId row) const {
   const std::uint32_t index = contents_.objects.indexOf(row);
   return index == ObjectSet::kNone ? kNoObject : contents_.objects.objects()[index];

@@ -41,6 +41,7 @@ class BaseTable final : public Table {
   [[nodiscard]] bool isDeleted(RowId row) const override { return contents_.deleted[row - 1]; }
   // Dates are texts "YYYYMMDD", times "HHMMSSFFF", both together one after the other; no value is an empty Value.
   [[nodiscard]] Value value(RowId row, std::size_t column) const override;
+  [[nodiscard]] const std::string* text(RowId row, std::size_t column) const override;
   [[nodiscard]] const ObjectPtr& object(RowId row) const override;
   [[nodiscard]] bool hasObjects() const override { return contents_.hasObjects; }
   [[nodiscard]] const CoordinateSystem& coordinateSystem() const override { return contents_.coordinateSystem; }

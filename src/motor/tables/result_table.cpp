@@ -14,6 +14,12 @@ Value ResultTable::value(RowId row, std::size_t column) const {
   return contents_.sources[from.source].table->value(sourceRow(row, from.source), from.column);
 }
 
+const std::string* ResultTable::text(RowId row, std::size_t column) const {
+  const auto* from = std::get_if<ResultContents::SourceColumn>(&contents_.data[column]);
+  if (from == nullptr) return nullptr;
+  return contents_.sources[from->source].table->text(sourceRow(row, from->source), from->column);
+}
+
 const ObjectPtr& ResultTable::object(RowId row) const { return base().table->object(sourceRow(row)); }
 
 const Box& ResultTable::bounds() const {

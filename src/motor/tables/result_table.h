@@ -41,6 +41,7 @@ class ResultTable final : public Table {
   [[nodiscard]] RowId rowCount() const override { return static_cast<RowId>(contents_.rows.front().size()); }
   [[nodiscard]] bool isDeleted(RowId) const override { return false; }
   [[nodiscard]] Value value(RowId row, std::size_t column) const override;
+  [[nodiscard]] const std::string* text(RowId row, std::size_t column) const override;
   [[nodiscard]] const ObjectPtr& object(RowId row) const override;
   [[nodiscard]] bool hasObjects() const override { return base().table->hasObjects(); }
   [[nodiscard]] const CoordinateSystem& coordinateSystem() const override { return base().table->coordinateSystem(); }

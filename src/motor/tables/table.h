@@ -33,6 +33,8 @@ class Table {
   [[nodiscard]] virtual bool isDeleted(RowId row) const = 0;
   // Column from 0, row from 1, both within range.
   [[nodiscard]] virtual Value value(RowId row, std::size_t column) const = 0;
+  // The field of a text column where it is kept, without a copy; null for other columns and for computed values.
+  [[nodiscard]] virtual const std::string* text(RowId /*row*/, std::size_t /*column*/) const { return nullptr; }
   // Null for a row without an object.
   [[nodiscard]] virtual const ObjectPtr& object(RowId row) const = 0;
   [[nodiscard]] virtual bool hasObjects() const = 0;
