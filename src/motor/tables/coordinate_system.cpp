@@ -16,6 +16,10 @@ namespace motor {
 namespace {
 
 constexpr const char* kLongLatClause = "Earth Projection 1, 104";
+constexpr const char* kLongLatName = "Longitude / Latitude";
+constexpr const char* kLongLatWkt =
+    R"(GEOGCS["unnamed",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],PRIMEM["Greenwich",0],)"
+    R"(UNIT["degree",0.0174532925199433,AUTHORITY["EPSG","9122"]],AXIS["Latitude",NORTH],AXIS["Longitude",EAST]])";
 
 std::string takeText(char* text) {
   const std::string result = text == nullptr ? "" : text;
@@ -25,7 +29,7 @@ std::string takeText(char* text) {
 
 // "Transverse_Mercator" as a person reads it.
 std::string nameOf(const OGRSpatialReference& system) {
-  if (system.IsGeographic() != 0) return "Longitude / Latitude";
+  if (system.IsGeographic() != 0) return kLongLatName;
   const char* projection = system.GetAttrValue("PROJECTION");
   std::string name = projection == nullptr ? "Non-Earth" : projection;
   std::replace(name.begin(), name.end(), '_', ' ');
@@ -91,8 +95,15 @@ class DefinitionCache {
   }
 };
 
+// Every session begins with this system, so it is written down here: to ask the library for it means opening its database.
 CoordinateSystem::CoordinateSystem() {
-  static const DefinitionCache::DefinitionPtr longLat = DefinitionCache::fromClause(kLongLatClause);
+  static const DefinitionCache::DefinitionPtr longLat =
+      std::make_shared<const Definition>(Definition{.wkt = kLongLatWkt,
+                                                    .clause = kLongLatClause,
+                                                    .name = kLongLatName,
+                                                    .isLongLat = true,
+                                                    .isEarth = true,
+                                                    .metresPerUnit = 1});
   definition_ = longLat;
 }
 

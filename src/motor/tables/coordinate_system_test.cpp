@@ -21,6 +21,16 @@ TEST(CoordinateSystemTest, isLongitudeAndLatitudeByDefault) {
   EXPECT_EQ(system, CoordinateSystem::fromClause("coordsys earth PROJECTION 1,104 Bounds (-180, -90) (180, 90)"));
 }
 
+TEST(CoordinateSystemTest, defaultIsWhatTheLibraryMakesOfItsClause) {
+  const CoordinateSystem system;
+  const auto asked = CoordinateSystem::fromClause(system.clause());
+  EXPECT_EQ(system.wkt(), asked.wkt());
+  EXPECT_EQ(system.name(), asked.name());
+  EXPECT_EQ(system.isLongLat(), asked.isLongLat());
+  EXPECT_EQ(system.isEarth(), asked.isEarth());
+  EXPECT_EQ(system.metresPerUnit(), asked.metresPerUnit());
+}
+
 TEST(CoordinateSystemTest, readsClauses) {
   struct Case {
     const char* clause;

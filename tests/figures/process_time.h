@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace figures {
+
+// Runs a program with its arguments to its end; the seconds from its start to its end. Throws
+// std::runtime_error when it cannot be started or fails.
+[[nodiscard]] double secondsOf(const std::vector<std::filesystem::path>& command);
+
+// Runs such a program and reads the one number that it prints.
+[[nodiscard]] double reportedMegabytes(const std::vector<std::filesystem::path>& command);
+
+}  // namespace figures
