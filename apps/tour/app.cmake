@@ -1,0 +1,1 @@
+veldoria_app(tour LINKS veldoria_desktop)

@@ -1,0 +1,1 @@
+veldoria_app(veldoria LINKS veldoria_desktop)

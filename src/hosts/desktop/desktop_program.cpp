@@ -1,0 +1,65 @@
+#include "hosts/desktop/desktop_program.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "hosts/desktop/theme.h"
+#include "platform/paths.h"
+
+namespace desktop {
+namespace {
+
+// The user's own number signs; Spanish ones where the desktop has no language of its own.
+motor::SessionOptions engineOptions(const std::string& applicationFolder) {
+  motor::SessionOptions options;
+  options.roots = {platform::machinePath(applicationFolder)};
+  const QLocale locale = QLocale::system();
+  if (locale.language() == QLocale::C) return options;
+  options.decimalSign = locale.decimalPoint().toStdString();
+  options.thousandsSign = locale.groupSeparator().toStdString();
+  return options;
+}
+
+}  // namespace
+
+void prepareApplication(QApplication& application) {
+  QApplication::setApplicationName(QStringLiteral("Mortalidad en Veldoria 1999-2002"));
+  QApplication::setQuitOnLastWindowClosed(false);  // the program says when it is over
+  auto* spanish = new QTranslator(&application);
+  if (spanish->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(spanish);
+  }
+  theme::install(application);
+}
+
+DesktopProgram::DesktopProgram(const std::string& applicationFolder, DesktopPrograms& programs)
+    : engines_(mapWindows_, engineOptions(applicationFolder)),
+      files_(machineFiles_, programs),
+      registry_(programs),
+      programs_(programs),
+      dialogs_(host_, machineFiles_, programs) {
+  calls_.ended = [this] {
+    over_ = true;
+    QCoreApplication::quit();
+  };
+  calls_.failed = [this](const std::string& description) {
+    messages_.show(description, platform::kCritical, QCoreApplication::applicationName().toStdString());
+  };
+  const platform::Ports ports{engines_, windows_, registry_, files_, programs_, messages_, dialogs_, applicationFolder};
+  atlas_ = std::make_unique<atlas::Atlas>(ports, host_);
+}
+
+// The windows go first: they show the atlas's forms. The atlas lets go of the engine, whose map lies in one of them.
+DesktopProgram::~DesktopProgram() {
+  atlas_->motormapa.reset();
+  host_.closeAll();
+  atlas_.reset();
+}
+
+void DesktopProgram::start() {
+  calls_.run([this] { atlas_->Main(); });
+}
+
+}  // namespace desktop

@@ -1,0 +1,204 @@
+#include "hosts/desktop/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimer>
+#include <algorithm>
+
+#include "hosts/desktop/artwork.h"
+#include "hosts/desktop/focus_order.h"
+#include "hosts/desktop/theme.h"
+#include "hosts/desktop/twips.h"
+#include "hosts/desktop/views/image_view.h"
+#include "hosts/desktop/views/picture_box_view.h"
+#include "hosts/desktop/views/tab_control_view.h"
+#include "hosts/desktop/views/view_factory.h"
+
+namespace desktop {
+namespace {
+
+Qt::WindowFlags flagsOf(FormLook look) {
+  switch (look) {
+    case FormLook::splash:
+      return Qt::SplashScreen | Qt::FramelessWindowHint;
+    case FormLook::palette:
+      return Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint;
+    case FormLook::window:
+      break;
+  }
+  return Qt::Window;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(forms::Form& form, ProgramCalls& calls, QWidget* owner)
+    : QWidget(lookOf(form) == FormLook::palette ? owner : nullptr, flagsOf(lookOf(form))),
+      form_(form),
+      calls_(calls),
+      look_(lookOf(form)) {
+  setObjectName(QString::fromStdString(form.name()));
+  setWindowTitle(QString::fromStdString(form.caption()));
+  setWindowIcon(artwork::icon("escudo"));
+  setMouseTracking(true);
+  if (look_ == FormLook::splash) setAttribute(Qt::WA_TranslucentBackground);
+  makeViews();
+}
+
+FormWindow::~FormWindow() { views_.clear(); }
+
+void FormWindow::makeViews() {
+  for (forms::Control* control : form_.controls()) {
+    QWidget* parent = this;
+    if (const ControlView* container = control->container() == nullptr ? nullptr : viewOf(*control->container())) {
+      parent = container->widget();
+    }
+    auto view = makeView(*control, *parent, calls_);
+    if (view == nullptr) continue;
+    view->syncAll();
+    viewOf_[control] = view.get();
+    views_.push_back(std::move(view));
+  }
+}
+
+ControlView* FormWindow::viewOf(const forms::Control& control) const {
+  const auto found = viewOf_.find(&control);
+  return found == viewOf_.end() ? nullptr : found->second;
+}
+
+void FormWindow::syncForm(forms::Property property) {
+  switch (property) {
+    case forms::Property::Caption:
+      setWindowTitle(QString::fromStdString(form_.caption()));
+      break;
+    case forms::Property::Left:
+    case forms::Property::Top: {
+      const QPoint place(toPixels(form_.left()), toPixels(form_.top()));
+      if (!reportsPlace_ && place != pos()) move(place);
+      break;
+    }
+    default:
+      break;
+  }
+}
+
+void FormWindow::turnPages() {
+  bool turned = false;
+  for (const auto& view : views_) {
+    auto* tabs = dynamic_cast<TabControlView*>(view.get());
+    if (tabs == nullptr || !tabs->isBehind()) continue;
+    tabs->sync(forms::Property::Tab);
+    turned = true;
+  }
+  if (!turned) return;
+  for (const auto& view : views_) {
+    if (view->control().container() != nullptr) view->syncVisible();
+  }
+}
+
+void FormWindow::syncChoices() {
+  turnPages();
+  using enum forms::Property;
+  for (const auto& view : views_) {
+    for (const auto property : {ListIndex, Value, SelectedItem, Tab}) view->sync(property);
+  }
+}
+
+void FormWindow::paintNow(const ControlView& view, forms::Property written) {
+  if (!isVisible() || !view.paintsAtOnce() || view.widget() == nullptr || !view.widget()->isVisible()) return;
+  if (written == forms::Property::Value) return view.widget()->repaint();
+  if (written != forms::Property::Visible) return;
+  QRegion region = rect();
+  for (const auto& other : views_) {
+    const bool isMap = dynamic_cast<const PictureBoxView*>(other.get()) != nullptr;
+    if (isMap && other->widget()->isVisible()) region -= other->widget()->geometry();
+  }
+  repaint(region);
+  view.widget()->repaint();
+}
+
+void FormWindow::markCurrentTool(const std::string& command) {
+  const std::string picture = pictureOfCommand(command);
+  for (const auto& view : views_) {
+    if (auto* image = dynamic_cast<ImageView*>(view.get())) image->setCurrentPicture(picture);
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  if (!isListening()) return event->accept();
+  event->ignore();
+  calls_.runWhenFree([this] { form_.userClose(); });
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (!sizeReported_) return;
+  sizeReported_ = false;
+  // One layout for all the steps of a resize that arrive together.
+  QTimer::singleShot(0, this, [this] {
+    sizeReported_ = true;
+    calls_.runWhenFree([this] { reportSize(); });
+  });
+}
+
+void FormWindow::reportSize() {
+  if (!isListening() || isMinimized() || !isVisible()) return;
+  const QSize size = frameGeometry().size();
+  if (size == QSize(toPixels(form_.width()), toPixels(form_.height()))) return;
+  form_.userResize(toTwips(size.width()), toTwips(size.height()));
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  if (isListening() && isVisible() && !isMinimized()) reportPlace();
+}
+
+void FormWindow::reportPlace() {
+  if (pos() == QPoint(toPixels(form_.left()), toPixels(form_.top()))) return;
+  reportsPlace_ = true;  // half told, the place would be one that the window is not at
+  form_.setLeft(toTwips(pos().x()));
+  form_.setTop(toTwips(pos().y()));
+  reportsPlace_ = false;
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange || !isListening()) return;
+  const bool minimized = isMinimized();
+  if (minimized == wasMinimized_) return;
+  wasMinimized_ = minimized;
+  calls_.runWhenFree([this, minimized] {
+    if (!isListening()) return;
+    minimized ? form_.userMinimize() : form_.userRestore();
+  });
+}
+
+void FormWindow::paintEvent(QPaintEvent*) {
+  if (look_ == FormLook::splash) return;
+  QPainter painter(this);
+  painter.fillRect(rect(), theme::kPaper);
+}
+
+void FormWindow::mouseMoveEvent(QMouseEvent* event) {
+  if (childAt(event->position().toPoint()) != nullptr) return;  // passed on by a control
+  if (isListening() && form_.MouseMove.hasHandlers()) calls_.run([this] { form_.userMouseMove(); });
+}
+
+void FormWindow::mouseDoubleClickEvent(QMouseEvent*) {
+  if (isListening()) calls_.run([this] { form_.userDoubleClick(); });
+}
+
+// Escape takes the pointer off whatever it opened.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && isListening()) return calls_.run([this] { form_.userMouseMove(); });
+  QWidget::keyPressEvent(event);
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+  QWidget* target = nextInReadingOrder(*this, focusWidget(), next);
+  if (target == nullptr) return QWidget::focusNextPrevChild(next);
+  target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
+}
+
+}  // namespace desktop

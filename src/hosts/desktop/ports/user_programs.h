@@ -1,0 +1,14 @@
+#pragma once
+
+#include "hosts/desktop/ports/known_programs.h"
+
+namespace desktop {
+
+// The user's own desktop.
+class UserPrograms : public DesktopPrograms {
+ public:
+  [[nodiscard]] bool has(Stand stand) const override;
+  bool open(const std::string& file) override;
+};
+
+}  // namespace desktop

@@ -1,0 +1,39 @@
+#include "hosts/desktop/program_calls.h"
+
+#include <utility>
+
+#include "platform/programs.h"
+#include "text/failure.h"
+
+namespace desktop {
+
+void ProgramCalls::run(const Action& action) {
+  if (ended_) return;
+  ++depth_;
+  try {
+    action();
+  } catch (const platform::ProgramEnd&) {
+    ended_ = true;
+  } catch (const Failure& failure) {
+    if (failed) failed(failure.description());
+  }
+  --depth_;
+  if (depth_ > 0) return;
+  if (ended_) {
+    waiting_.clear();
+    if (ended) ended();
+    return;
+  }
+  if (returned) returned();
+  for (const Action& next : std::exchange(waiting_, {})) run(next);
+}
+
+void ProgramCalls::runWhenFree(Action action) {
+  if (isBusy()) {
+    waiting_.push_back(std::move(action));
+  } else {
+    run(action);
+  }
+}
+
+}  // namespace desktop

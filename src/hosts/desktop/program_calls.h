@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace desktop {
+
+// The one door into the program: everything that the user or a timer does enters it through `run`. A handler that ends
+// the program ends the host here.
+class ProgramCalls {
+ public:
+  using Action = std::function<void()>;
+
+  // What happens after each outermost call, when the program ends, and when a failure leaves a handler that has no trap
+  // (its description is shown to the user).
+  Action returned;
+  Action ended;
+  std::function<void(const std::string& description)> failed;
+
+  // Runs `action` now; nothing once the program has ended.
+  void run(const Action& action);
+
+  // Runs `action` now, or as soon as the call under way has returned. For what the user does not wait for: sizes,
+  // ticks.
+  void runWhenFree(Action action);
+
+  // Whether a call is under way (a message box may be open inside it).
+  [[nodiscard]] bool isBusy() const { return depth_ > 0; }
+  [[nodiscard]] bool hasEnded() const { return ended_; }
+
+ private:
+  int depth_ = 0;
+  bool ended_ = false;
+  std::vector<Action> waiting_;
+};
+
+}  // namespace desktop

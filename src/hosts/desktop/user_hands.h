@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+
+class QComboBox;
+
+namespace desktop {
+
+// What a user's hands do, as events of the toolkit: for a tour without a display.
+namespace hands {
+
+void click(QWidget& widget, QPoint at);
+void click(QWidget& widget);  // in its middle
+void doubleClick(QWidget& widget);
+void pointAt(QWidget& widget);
+void press(QWidget& widget, Qt::Key key);
+// Opens the list and picks the item in it.
+void pick(QComboBox& combo, int index);
+// Lets everything that is waiting happen.
+void settle();
+
+}  // namespace hands
+}  // namespace desktop

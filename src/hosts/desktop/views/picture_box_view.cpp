@@ -1,0 +1,27 @@
+#include "hosts/desktop/views/picture_box_view.h"
+
+#include <QPainter>
+
+#include "hosts/desktop/theme.h"
+
+namespace desktop {
+namespace {
+
+class Sheet : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::kPaper);
+  }
+};
+
+}  // namespace
+
+PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, ProgramCalls& calls) : ControlView(box, calls) {
+  adopt(new Sheet(&parent));
+}
+
+}  // namespace desktop

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "forms/tabs.h"
+#include "hosts/desktop/views/control_view.h"
+
+namespace desktop {
+
+class TabStripView : public ControlView {
+ public:
+  TabStripView(forms::TabStrip& strip, QWidget& parent, ProgramCalls& calls);
+  void sync(forms::Property property) override;
+
+ private:
+  forms::TabStrip& strip_;
+};
+
+}  // namespace desktop

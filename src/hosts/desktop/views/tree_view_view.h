@@ -1,0 +1,30 @@
+#pragma once
+
+#include <unordered_map>
+
+#include "forms/tree_view.h"
+#include "hosts/desktop/views/control_view.h"
+
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace desktop {
+
+class TreeViewView : public ControlView {
+ public:
+  TreeViewView(forms::TreeView& tree, QWidget& parent, ProgramCalls& calls);
+  void cleared() override;
+  void nodeAdded(const forms::Node& node) override;
+  void nodeExpanded(const forms::Node& node) override;
+
+ private:
+  void addWithChildren(const forms::Node& node);
+  // The user has opened or closed the item.
+  void itemToggled(const QTreeWidgetItem& item, bool expanded);
+
+  forms::TreeView& tree_;
+  QTreeWidget* rows_;
+  std::unordered_map<const forms::Node*, QTreeWidgetItem*> items_;
+};
+
+}  // namespace desktop

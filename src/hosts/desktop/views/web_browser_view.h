@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include "forms/web_browser.h"
+#include "hosts/desktop/views/control_view.h"
+
+class QTextBrowser;
+
+namespace desktop {
+
+// Shows the pages of the study's tables.
+class WebBrowserView : public ControlView {
+ public:
+  WebBrowserView(forms::WebBrowser& browser, QWidget& parent, ProgramCalls& calls);
+  void navigated(const std::string& path) override;
+
+  // The title of the page shown, else its file's name.
+  [[nodiscard]] QString locationName() const;
+
+ private:
+  forms::WebBrowser& browser_;
+  QTextBrowser* page_;
+};
+
+}  // namespace desktop
