@@ -29,7 +29,7 @@ struct Rule {
   std::string_view before;  // "" for none; "^" first: it must be the line just before the call
   Reaction reaction;
   std::vector<std::string_view> mayFollow;
-  std::string_view mustFollow;
+  std::string_view mustFollow;  // "a|b": one of them
 };
 
 const std::vector<Rule>& rules() {
@@ -37,6 +37,12 @@ const std::vector<Rule>& rules() {
   static const std::vector<std::string_view> comingUp{"form frmPrincipal show", "set *",
                                                       "eval windowid(1)*",      "eval WindowID(1)*",
                                                       "do set window *",        "form frmInicio unload"};
+  // What the main window looks like without a map; an engine that was not found ends the program instead.
+  static const std::vector<std::string_view> comingUpWithoutMap{
+      "form frmPrincipal show", "set *", "findwindow *", "eval windowid(1)*", "form frmInicio unload"};
+  static const std::vector<std::string_view> engineNotFound{
+      "regquery Path 0 0 = 6", "msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *", "form frmInicio unload",
+      "form frmPrincipal unload", "end"};
   static const std::vector<std::string_view> anything{"*"};
   static const std::vector<std::string_view> nothing;
   static const std::vector<Rule> all = [] {
@@ -50,6 +56,18 @@ const std::vector<Rule>& rules() {
       }
       table.push_back({query, Step::handling, "do Set map zoom entire", "^do Remove map layer 1 Interactive",
                        Reaction::silent, anything, "set txtespere1.Visible False"});
+    }
+    for (const std::string_view start : {"> tick", "> doubleclick frmInicio"}) {
+      const std::vector<Rule> checks{
+          // A PDF viewer that is not found is no matter for the start; a map engine that is not found ends it.
+          {start, Step::handling, "regopen *Mapinfor.exe *", "", Reaction::silent, engineNotFound, "end"},
+          {start, Step::handling, "regopen *", "", Reaction::silent, anything, "form frmInicio unload|end"},
+          {start, Step::handling, "regquery *", "regopen *ACRORD32.exe *", Reaction::silent, anything,
+           "form frmInicio unload|end"},
+          {start, Step::handling, "regquery *", "", Reaction::silent, engineNotFound, "end"},
+          {start, Step::handling, "dir *", "", Reaction::silent, comingUpWithoutMap, "form frmInicio unload"},
+      };
+      table.insert(table.end(), checks.begin(), checks.end());
     }
     const std::vector<Rule> others{
         {"> tick", Step::opening, "*", "", Reaction::silent, comingUp, "form frmInicio unload"},
@@ -187,12 +205,11 @@ bool isScriptLine(const std::string& line) { return line.starts_with("> "); }
 
 // The failure that was let happen; false when there is none.
 bool findIncident(const Lines& transcript, Incident& incident) {
-  const std::string error = "error " + std::to_string(failures::kEngineRejected) + " " + kFaultText;
-  const auto at = std::ranges::find(transcript, error);
+  const auto at = std::ranges::find_if(transcript, isFault);
   if (at == transcript.end()) return false;
   const auto script = std::find_if(std::make_reverse_iterator(at), transcript.rend(), isScriptLine);
   incident.script = *script;
-  incident.before.assign(script.base(), at);
+  incident.before.assign(script.base(), at->starts_with("error ") ? at : at + 1);
   incident.after.assign(at + 1, std::find_if(at + 1, transcript.end(), isScriptLine));
   return true;
 }
@@ -229,6 +246,13 @@ bool takeReport(Lines& rest) {
   return true;
 }
 
+bool holdsOneOf(const Lines& lines, std::string_view wanted) {
+  for (const auto line : std::views::split(wanted, '|')) {
+    if (std::ranges::find(lines, std::string_view(line.begin(), line.end())) != lines.end()) return true;
+  }
+  return false;
+}
+
 std::string described(const Incident& incident, const std::string& what) {
   std::string text = what + "\n  " + incident.script + "\n  " + incident.call() + "\n  (fault)\n";
   for (const std::string& line : incident.after) text += "  " + line + "\n";
@@ -236,6 +260,12 @@ std::string described(const Incident& incident, const std::string& what) {
 }
 
 }  // namespace
+
+bool isFault(const std::string& line) {
+  static const std::string status = " = " + std::to_string(kMachineFault);
+  if (line.starts_with("reg")) return line.ends_with(status);
+  return line.starts_with("error ") && line.ends_with(kFaultText);
+}
 
 std::string complaintAbout(const Lines& transcript) {
   Incident incident;
@@ -250,7 +280,7 @@ std::string complaintAbout(const Lines& transcript) {
         std::ranges::any_of(rule->mayFollow, [&](std::string_view pattern) { return matchesWildcard(pattern, line); });
     if (!mayFollow) return described(incident, "this was not to follow: " + line);
   }
-  if (!rule->mustFollow.empty() && std::ranges::find(rest, rule->mustFollow) == rest.end()) {
+  if (!rule->mustFollow.empty() && !holdsOneOf(rest, rule->mustFollow)) {
     return described(incident, "this did not follow: " + std::string(rule->mustFollow));
   }
   return "";

@@ -2,19 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "aftermath.h"
 #include "fault_rules.h"
 #include "hosts/headless/text_lines.h"
+#include "sample_study.h"
 #include "scenario.h"
 #include "text/failure.h"
 
-// Each scenario is run again and again with one more call to the map engine failing: the first, the second and so on to
-// the last. The handler must do what its trap says, and the program must go on.
+// Each scenario is run again and again with one more call failing: the first, the second and so on to the last that
+// goes to the map engine, then those that go to the registry, to files and to programs. The handler must do what its
+// trap says, and the next one what it does in the state that it finds.
 namespace {
 
+using headless::CallKind;
 using scenarios::Lines;
 
 // Scenarios that let calls fail themselves are left out.
@@ -28,40 +33,95 @@ std::vector<std::string> undisturbed() {
 }
 
 // Runs the script to its end. What a line cannot do because of the fault (an item that was not listed, a map that is
-// not there) is passed over; a failure that leaves the program is a test failure.
-void runOn(headless::Replay& replay, const std::string& script) {
+// not there) is passed over; a failure that leaves the program is a test failure. Gives the lines that were not done.
+std::set<std::string> runOn(headless::Replay& replay, const std::string& script) {
+  std::set<std::string> notDone;
   headless::forEachTextLine(script, [&](std::string_view line) {
     try {
       replay.runLine(line);
     } catch (const headless::UntrappedFailure& failure) {
       ADD_FAILURE() << line << ": " << failure.what();
     } catch (const headless::ScriptError&) {
-      return;
+      notDone.insert("> " + std::string(line));
     }
   });
+  return notDone;
+}
+
+Failure faultOf(CallKind kind) {
+  if (kind == CallKind::engine) return failures::engineRejected(scenarios::kFaultText);
+  return {scenarios::kMachineFault, scenarios::kFaultText};
+}
+
+// Lets the call of that number fail and judges what follows.
+void expectRightReaction(scenarios::Run run, const std::string& script, const Lines& reference, CallKind kind,
+                         int call) {
+  run.replay().faults().failCall(kind, call, faultOf(kind));
+  const std::set<std::string> notDone = runOn(run.replay(), script);
+  const char* whose = kind == CallKind::engine ? "engine call " : "machine call ";
+  EXPECT_EQ(scenarios::complaintAbout(run.transcript()), "") << whose << call;
+  EXPECT_EQ(scenarios::complaintAboutNext(run.transcript(), reference, notDone), "") << whose << call << ", next line";
 }
 
 class Faults : public ::testing::TestWithParam<std::string> {};
 
-TEST_P(Faults, EveryEngineCallMayFail) {
+TEST_P(Faults, EveryCallMayFail) {
   const std::string script = scenarios::contentsOf(scenarios::file(GetParam(), ".replay"));
   const scenarios::Study study(GetParam());
-  const int calls = [&] {
-    scenarios::Run run(GetParam(), study);
-    run.replay().run(script);
-    return run.replay().faults().engineCalls();
-  }();
-  for (int call = 1; call <= calls; ++call) {
-    scenarios::Run run(GetParam(), study);
-    run.replay().faults().failEngineCall(call, failures::engineRejected(scenarios::kFaultText));
-    runOn(run.replay(), script);
-    const std::string complaint = scenarios::complaintAbout(run.transcript());
-    EXPECT_EQ(complaint, "") << "call " << call;
+  scenarios::Run reference(GetParam(), study);
+  reference.replay().run(script);
+  for (const CallKind kind : {CallKind::engine, CallKind::machine}) {
+    const int calls = reference.replay().faults().calls(kind);
+    for (int call = 1; call <= calls; ++call) {
+      expectRightReaction({GetParam(), study}, script, reference.transcript(), kind, call);
+    }
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Faults, ::testing::ValuesIn(undisturbed()),
                          [](const auto& scenario) { return scenario.param; });
+
+// The numbers of the calls of a kind to try in a long transcript: the first, the second and the last with each text.
+std::set<int> distinctCalls(const Lines& transcript, const std::vector<std::string_view>& beginnings) {
+  std::map<std::string, std::vector<int>> byText;
+  int number = 0;
+  for (const std::string& line : transcript) {
+    const auto begins = [&](std::string_view beginning) { return line.starts_with(beginning); };
+    if (std::ranges::none_of(beginnings, begins)) continue;
+    byText[line.substr(0, line.find(" = "))].push_back(++number);
+  }
+  std::set<int> result;
+  for (const auto& [text, numbers] : byText) {
+    result.insert({numbers.front(), numbers[numbers.size() > 1 ? 1 : 0], numbers.back()});
+  }
+  return result;
+}
+
+TEST(SampleStudy, DistinctCallsAreTheFirstTheSecondAndTheLast) {
+  const Lines transcript{"do a", "eval x = 1", "do b", "do a", "eval x = 2", "do a", "eval x = 3", "do a", "dir c = c"};
+  EXPECT_EQ(distinctCalls(transcript, {"do ", "eval "}), (std::set{1, 2, 3, 4, 5, 7, 8}));
+}
+
+class SampleStudyFaults : public ::testing::TestWithParam<CallKind> {};
+
+TEST_P(SampleStudyFaults, EachDistinctCallMayFail) {
+  const std::string folder = *scenarios::sampleStudy();
+  scenarios::Run reference(folder);
+  reference.replay().run(scenarios::kSampleScript);
+  const std::vector<std::string_view> beginnings =
+      GetParam() == CallKind::engine ? std::vector<std::string_view>{"do ", "eval ", "create ", "callback-set "}
+                                     : std::vector<std::string_view>{"regopen ", "regquery ", "dir "};
+  for (const int call : distinctCalls(reference.transcript(), beginnings)) {
+    expectRightReaction(scenarios::Run(folder), scenarios::kSampleScript, reference.transcript(), GetParam(), call);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(IfMade, SampleStudyFaults,
+                         ::testing::ValuesIn(scenarios::sampleStudy()
+                                                 ? std::vector{CallKind::engine, CallKind::machine}
+                                                 : std::vector<CallKind>{}),
+                         [](const auto& kind) { return kind.param == CallKind::engine ? "Engine" : "Machine"; });
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(SampleStudyFaults);
 
 // The rules themselves can tell right from wrong.
 TEST(FaultRules, NoticeWhatMustNotFollow) {

@@ -52,6 +52,18 @@ Lines linesOf(const std::string& text) {
   return lines;
 }
 
+std::vector<Block> blocksOf(const Lines& transcript) {
+  std::vector<Block> blocks;
+  for (const std::string& line : transcript) {
+    if (line.starts_with("> ")) {
+      blocks.push_back({line, {}});
+    } else if (!blocks.empty()) {
+      blocks.back().lines.push_back(line);
+    }
+  }
+  return blocks;
+}
+
 Study::Study(const std::string& name) : folder_(fs::canonical(fs::path(VELDORIA_SCENARIOS) / "tiny")) {
   const fs::path own = file(name, ".app");
   const bool saves = contentsOf(file(name, ".replay")).find("savename") != std::string::npos;
@@ -82,6 +94,16 @@ Run::Run(const std::string& name, const Study& study) {
   if (const fs::path registry = file(name, ".registry"); fs::exists(registry)) {
     options.registryFile = contentsOf(registry);
   }
+  start(options);
+}
+
+Run::Run(const std::string& studyFolder) : engines_(std::make_unique<headless::EmbeddedEngine>(studyFolder)) {
+  headless::ReplayOptions options;
+  options.applicationFolder = studyFolder;
+  start(options);
+}
+
+void Run::start(const headless::ReplayOptions& options) {
   replay_ = std::make_unique<headless::Replay>(options, *engines_,
                                                [this](const std::string& line) { transcript_.push_back(line); });
 }

@@ -25,6 +25,13 @@ using Lines = std::vector<std::string>;
 [[nodiscard]] std::string contentsOf(const std::filesystem::path& file);
 [[nodiscard]] Lines linesOf(const std::string& text);
 
+// A script's line, as the transcript shows it, and what it did.
+struct Block {
+  std::string script;
+  Lines lines;
+};
+[[nodiscard]] std::vector<Block> blocksOf(const Lines& transcript);
+
 // The folder of the scenario's study: the tiny study itself, or a copy, gone with the object, where the scenario
 // changes it.
 class Study {
@@ -44,12 +51,16 @@ class Study {
 class Run {
  public:
   Run(const std::string& name, const Study& study);
+  // A program with the embedded engine on the study in this folder.
+  explicit Run(const std::string& studyFolder);
 
   [[nodiscard]] headless::Replay& replay() { return *replay_; }
   // What was written so far.
   [[nodiscard]] const Lines& transcript() const { return transcript_; }
 
  private:
+  void start(const headless::ReplayOptions& options);
+
   Lines transcript_;
   std::unique_ptr<headless::EngineHost> engines_;
   std::unique_ptr<headless::Replay> replay_;

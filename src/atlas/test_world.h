@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <deque>
+#include <exception>
 #include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -75,7 +77,11 @@ class World final : public forms::Listener,
 
   // The next effect whose line begins so fails.
   void failAt(const std::string& beginning, int number, const std::string& description = "motivo") {
-    faults_.emplace_back(beginning, Failure(number, description));
+    faults_.emplace_back(beginning, std::make_exception_ptr(Failure(number, description)));
+  }
+  // The same with a failure that is none of the ports' own.
+  void breakAt(const std::string& beginning, const std::string& what) {
+    faults_.emplace_back(beginning, std::make_exception_ptr(std::runtime_error(what)));
   }
 
   void installEngineAndReader() {
@@ -200,9 +206,9 @@ class World final : public forms::Listener,
     lines.push_back(line);
     const auto fault = std::ranges::find_if(faults_, [&](const auto& f) { return line.starts_with(f.first); });
     if (fault == faults_.end()) return;
-    const Failure failure = fault->second;
+    const std::exception_ptr failure = fault->second;
     faults_.erase(fault);
-    throw failure;
+    std::rethrow_exception(failure);
   }
 
   static Queried stored(const std::string& type, const std::string& data, std::uint32_t bufferSize) {
@@ -272,7 +278,7 @@ class World final : public forms::Listener,
     return field->second;
   }
 
-  std::vector<std::pair<std::string, Failure>> faults_;
+  std::vector<std::pair<std::string, std::exception_ptr>> faults_;
   std::map<platform::RegistryKey, std::string> keys_;
   platform::RegistryKey keyOpened_ = 0;
   int enginesCreated_ = 0;

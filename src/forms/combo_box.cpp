@@ -11,7 +11,9 @@ void DropDownList::setText(const std::string& text) {
   const auto& all = items();
   const auto found = std::ranges::find_if(all, [&](const auto& item) { return text::equalsIgnoringCase(item, text); });
   if (found == all.end()) throw failures::readOnlyText();
-  setListIndex(static_cast<int>(found - all.begin()));
+  choose(static_cast<int>(found - all.begin()));
+  tell(Property::Text);
+  if (isLive()) Click.raise();
 }
 
 void EditableCombo::setText(const std::string& text) {

@@ -9,7 +9,8 @@ class DropDownList : public ItemList {
  public:
   using ItemList::ItemList;
 
-  // Chooses the item that equals the text ignoring case, as setListIndex does. Fails with 383 when there is none.
+  // Chooses the item that equals the text ignoring case and raises Click, also when it is the one already chosen.
+  // Fails with 383 when there is none.
   void setText(const std::string& text);
 };
 

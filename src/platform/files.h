@@ -18,8 +18,8 @@ class Files {
   // The names of the folders in a folder, in no particular order; none when it does not exist.
   [[nodiscard]] virtual std::vector<std::string> folders(const std::string& path) = 0;
 
-  // Copies a file. Fails with 53 when `from` is missing, and with the system's own words when `to` cannot be written; a
-  // half-written copy is removed.
+  // Copies a file. Fails with 53 when `from` is missing, and with 75 when `from` cannot be read or `to` cannot be
+  // written; a half-written copy is removed.
   virtual void copy(const std::string& from, const std::string& to) = 0;
 };
 

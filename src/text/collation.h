@@ -15,7 +15,7 @@ namespace text {
 
 // For sorting containers of text.
 struct CollationLess {
-  bool operator()(std::string_view a, std::string_view b) const { return collate(a, b) < 0; }
+  bool operator()(std::string_view a, std::string_view b) const { return std::is_lt(collate(a, b)); }
 };
 
 }  // namespace text

@@ -6,6 +6,7 @@ Failure overflow() { return {kOverflow, "Desbordamiento"}; }
 Failure subscript() { return {kSubscript, "El subíndice está fuera del intervalo"}; }
 Failure typeMismatch() { return {kTypeMismatch, "No coinciden los tipos"}; }
 Failure fileNotFound() { return {kFileNotFound, "No se ha encontrado el archivo"}; }
+Failure pathAccess() { return {kPathAccess, "Error de acceso a la ruta o al archivo"}; }
 Failure noObject() {
   return {kNoObject, "La variable de tipo Object o la variable de bloque With no está establecida"};
 }

@@ -23,6 +23,7 @@ inline constexpr int kOverflow = 6;
 inline constexpr int kSubscript = 9;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kFileNotFound = 53;
+inline constexpr int kPathAccess = 75;
 inline constexpr int kNoObject = 91;
 inline constexpr int kInvalidPropertyValue = 380;
 inline constexpr int kReadOnlyText = 383;
@@ -35,6 +36,7 @@ inline constexpr int kEngineRejected = -2147352567;
 [[nodiscard]] Failure subscript();                              // 9
 [[nodiscard]] Failure typeMismatch();                           // 13
 [[nodiscard]] Failure fileNotFound();                           // 53
+[[nodiscard]] Failure pathAccess();                             // 75
 [[nodiscard]] Failure noObject();                               // 91
 [[nodiscard]] Failure invalidPropertyValue();                   // 380
 [[nodiscard]] Failure readOnlyText();                           // 383

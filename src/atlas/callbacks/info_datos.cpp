@@ -59,7 +59,9 @@ void MICallback::highlightUnit(const Point& point) {
   ResaltarSeleccion(atlas_, "Set map center(" + point.x + ", " + point.y +
                                 ") zoom 300 units \"Km\" layer 1 display global global brush (2,255,255) "
                                 "Pen (1,2,44031) Label Font (\"Tahoma\",1,8,16777215)");
-  atlas_.unit = {table, atlas_.Eval("Selection.nombre").text()};
+  // The table first: when the name cannot be read it stays.
+  atlas_.unit.Tabla = table;
+  atlas_.unit.Nombre = atlas_.Eval("Selection.nombre").text();
   atlas_.MarcaConsulta = true;
 }
 

@@ -128,9 +128,11 @@ TEST_F(Info, EvaluatesInOrder) {
 
 TEST_F(Info, WithoutAHitNothingIsZoomedOrSelected) {
   world.answers = {{"searchpoint(windowid(1),10.5,20.5)", "0"}};
+  atlas.nombreinfo = "Norte";
   click("Info");
   EXPECT_EQ(tree(), Lines{});
-  EXPECT_EQ(world.take({"do", "msgbox"}), Lines{});
+  EXPECT_EQ(world.take({"do", "msgbox", "set txt"}), kNoticeShown) << "the notices stay";
+  EXPECT_EQ(atlas.nombreinfo, "Norte");
 }
 
 class InfoEstadisticas : public Callback {
@@ -192,6 +194,14 @@ TEST_F(InfoEstadisticas, MoreRowsThanACounterHoldsEndsInSilence) {
   click("InfoEstadisticas");
   EXPECT_EQ(tree(), Lines{});
   EXPECT_EQ(world.take({"msgbox", "set txtEspere.Visible False"}), Lines{});
+}
+
+TEST_F(InfoEstadisticas, MoreColumnsThanACounterHoldsEndsInSilence) {
+  world.tables = {{"from Stat ", {row("A", "uno", "1")}}};
+  world.answers["tableinfo(stat,4)"] = "32768";
+  click("InfoEstadisticas");
+  EXPECT_EQ(tree(), (Lines{"Veldoria * 8388608"}));
+  EXPECT_EQ(world.take({"msgbox", "expand", "set txtEspere.Visible False"}), Lines{});
 }
 
 class InfoDatos : public Callback {
@@ -267,6 +277,33 @@ TEST_F(InfoDatos, WithNothingToHighlightTheCurrentUnitStays) {
   EXPECT_EQ(world.take({"do Add", "msgbox", "set txtEspere.Visible False"}), (Lines{"set txtEspere.Visible False"}));
   EXPECT_EQ(atlas.unit.Nombre, "Sur");
   EXPECT_FALSE(atlas.MarcaConsulta);
+}
+
+TEST_F(InfoDatos, AFailureOfTheNameLeavesTheTableOfTheUnitSet) {
+  world.answers["mapperinfo(frontwindow(),9) "] = "0";
+  world.failAt("eval Selection.nombre", failures::kEngineRejected);
+  atlas.unit = {"Provincias", "Sur"};
+  atlas.MarcaConsulta = false;
+  click("InfoDatos");
+  EXPECT_EQ(atlas.unit.Tabla, "ZonasBasicas");
+  EXPECT_EQ(atlas.unit.Nombre, "Sur");
+  EXPECT_FALSE(atlas.MarcaConsulta);
+}
+
+TEST_F(InfoDatos, TheHighlightDoesNotDependOnTheLayersListed) {
+  world.answers["mapperinfo(frontwindow(),9) "] = "1";
+  world.answers["layerinfo(frontwindow(),1,1)"] = "Provincias1999";
+  click("InfoDatos");
+  EXPECT_EQ(tree().at(1), "Norte * 8388608 +");
+  EXPECT_EQ(main().TreeView1.roots().size(), 2U);
+  EXPECT_EQ(atlas.unit.Tabla, "ZonasBasicas");
+  EXPECT_EQ(atlas.unit.Nombre, "Alameda");
+  world.answers["layerinfo(frontwindow(),1,1)"] = "ZonasBasicas1999";
+  world.answers["layerinfo(frontwindow(),2,9)"] = "0";
+  click("InfoDatos");
+  EXPECT_EQ(tree().at(1), "Alameda * 8388608 +");
+  EXPECT_EQ(atlas.unit.Tabla, "Provincias");
+  EXPECT_EQ(atlas.unit.Nombre, "Norte");
 }
 
 TEST_F(InfoDatos, AFailureLeavesTheNoticeInSilence) {

@@ -1,3 +1,5 @@
+#include <exception>
+
 #include "atlas/atlas.h"
 #include "atlas/callbacks/mi_callback.h"
 #include "atlas/shell/frm_principal.h"
@@ -11,6 +13,9 @@
 // and the callback object is registered before the buttons that name its methods.
 namespace atlas {
 namespace {
+
+// What is reported of a failure that is none of the ports' own.
+constexpr int kNoNumber = 0;
 
 constexpr unsigned kStay = platform::kNoSize | platform::kNoMove | platform::kNoActivate;
 
@@ -26,6 +31,8 @@ void Atlas::AbrirMapa(const std::string& ruta) {
     openWorkspace(ruta);
   } catch (const Failure& failure) {
     reportOpening(failure.number(), failure.description());
+  } catch (const std::exception& failure) {
+    reportOpening(kNoNumber, failure.what());
   }
 }
 

@@ -66,6 +66,32 @@ TEST_F(Toolbars, DataRow) {
                             {10, "Ver Mapa Completo", "set map zoom entire", ""}});
 }
 
+TEST_F(Toolbars, EachImageHasItsToolTip) {
+  struct Row {
+    const forms::ImageArray& images;
+    std::vector<std::string> toolTips;  // by index, "" where there is no image
+  };
+  const std::vector<Row> rows{
+      {main().Image2,
+       {"Zoom+", "Zoom-", "Desplazamiento", "Información", "", "Etiquetado", "Medir Distancias",
+        "Arrastrar Mapa a otra aplicación", "Imprimir Mapa", "Ayuda", "Mostrar/Ocultar selector de mapa",
+        "Mostrar/Ocultar Leyenda", "Ver Mapa Completo"}},
+      {main().Image3,
+       {"Zoom+", "Zoom-", "Desplazamiento", "Información", "", "Medir distancias", "Arrastrar Mapa a otra aplicación",
+        "Etiquetado", "Imprimir Mapa", "Ayuda", "Ver Mapa Completo"}},
+      {main().Image4,
+       {"Zoom+", "Zoom-", "Desplazamiento", "Información", "", "Medir Distancias", "Arrastrar Mapa a otra aplicación",
+        "Imprimir Mapa", "Ayuda", "Etiquetado", "Ver Mapa Completo"}},
+  };
+  for (const Row& row : rows) {
+    std::vector<std::string> toolTips(row.toolTips.size());
+    for (const int index : row.images.indices()) {
+      toolTips.at(static_cast<std::size_t>(index)) = row.images.at(index).toolTipText;
+    }
+    EXPECT_EQ(toolTips, row.toolTips);
+  }
+}
+
 TEST_F(Toolbars, HelpLeavesTheLabel) {
   start();
   for (forms::Image* help : {&main().Image2.at(9), &main().Image3.at(9), &main().Image4.at(8)}) {

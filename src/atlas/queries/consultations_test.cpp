@@ -130,6 +130,31 @@ TEST_F(Consultations, AFailureIsReportedAndTheNoticesStay) {
   EXPECT_EQ(atlas.unit.Nombre, "");
 }
 
+TEST_F(Consultations, AnEmptyValueEndsTheWalkWithItsFailure) {
+  Row withoutValue = row("Norte");
+  withoutValue["indicador"] = "Fallecidos";
+  withoutValue.erase("valor");
+  world.tables = {{"from Provincias1999 where", {row("Norte"), withoutValue, row("Norte")}}};
+  pick(main().CmbProvincias, "Norte");
+  EXPECT_EQ(world.take({"msgbox", "eval Formatnumber", "set txtEspere"}),
+            (Lines{"set txtEspere.Visible True", "eval Formatnumber$(round(Selection.valor,0.01)) = 10",
+                   "msgbox 0 [Mortalidad en Veldoria 1999-2002] no existe la columna"}));
+  EXPECT_EQ(testing::describe(main().TreeView1),
+            (Lines{"1999 * 8388608", "Norte * 8388608", "  Hombres 192", "    General 8388608", "      Población: 10"}));
+  EXPECT_EQ(atlas.unit.Nombre, "");
+}
+
+TEST_F(Consultations, ADoubleQuoteInANameIsSentAsItIs) {
+  const std::string statement =
+      "do Select año,nombre,provincia,sexo,tipo,indicador,valor from ZonasBasicas1999 where nombre=\"La \"Alta\"\" "
+      "order by sexo,tipo";
+  main().CmbZonas.addItem("La \"Alta\"");
+  world.failAt(statement, failures::kEngineRejected, "sobra una palabra");
+  pick(main().CmbZonas, "La \"Alta\"");
+  EXPECT_EQ(world.take({"do Select", "msgbox"}),
+            (Lines{statement, "msgbox 0 [Mortalidad en Veldoria 1999-2002] sobra una palabra"}));
+}
+
 TEST_F(Consultations, TheEarlierQueryLayerGoesFirst) {
   world.topLayer = "Query1";
   pick(main().CmbProvincias, "Norte");

@@ -28,6 +28,13 @@ TEST_F(PlaceSearch, TheKindOfPlaceNamesTheTableAndItsOwnSearchIsDiscarded) {
   EXPECT_EQ(atlas.tablabusqueda, "Provincias");
 }
 
+TEST_F(PlaceSearch, WhereThePromptStandsAlreadyNothingIsSearched) {
+  pick(main().CmbBuscar, "Zonas básicas");
+  world.lines.clear();
+  pick(main().CmbBuscar, "Provincias");
+  EXPECT_EQ(world.take(), (Lines{"set txtBuscar.Text \"Escriba el lugar que desea buscar\"", "clear ListaResultado"}));
+}
+
 TEST_F(PlaceSearch, EnteringTheBoxEmptiesIt) {
   pick(main().CmbBuscar, "Provincias");
   world.lines.clear();

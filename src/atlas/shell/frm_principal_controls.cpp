@@ -61,7 +61,7 @@ void FrmPrincipal::defineSideMenu() {
   ShpFondo.backColor = kStage;
   ShpCabecera.place(0, 0, 10140, kHeaderHeight);
   ShpCabecera.backColor = kNavy;
-  LineMenu.place(6530, 150, 15, 300);
+  LineMenu.place(7330, 150, 15, 300);
   LineMenu.backColor = kWhite;
 
   struct Entry {
@@ -71,16 +71,17 @@ void FrmPrincipal::defineSideMenu() {
     forms::Twips width;
   };
   for (const Entry& entry :
-       {Entry{LblPresentación, "Presentación", 300, 1500}, Entry{LblInformacion, "Información", 1950, 1350},
-        Entry{LblEstadisticas, "Estadísticas de mortalidad", 3450, 2950}, Entry{LblSalir, "Salir", 6700, 700}}) {
+       {Entry{LblPresentación, "Presentación", 150, 1800}, Entry{LblInformacion, "Información", 2000, 2400},
+        Entry{LblEstadisticas, "Estadísticas de mortalidad", 4450, 2800}, Entry{LblSalir, "Salir", 7420, 1000}}) {
     entry.label.setCaption(entry.caption);
     entry.label.place(entry.left, kMenuTop, entry.width, kHeaderHeight - kMenuTop);
     entry.label.foreColor = kWhite;
   }
 
-  // Each pop-up frame begins where its label ends, so that the pointer gets from one to the other.
-  Submenu.place(3450, kHeaderHeight, 1700, 960);
-  SubMenu2.place(1950, kHeaderHeight, 2400, 960);
+  // Each pop-up frame begins where its label ends, so that the pointer gets from one to the other; both may be open
+  // side by side.
+  Submenu.place(4450, kHeaderHeight, 1700, 960);
+  SubMenu2.place(2000, kHeaderHeight, 2400, 960);
   struct PopUpEntry {
     forms::Frame& frame;
     forms::Label& label;

@@ -65,10 +65,11 @@ TEST_F(Controls, EachTabHoldsItsOwnPage) {
 }
 
 TEST_F(Controls, ControlsOfAPageStayInsideItAtTheSmallestSize) {
+  constexpr double kFichaOnTheTables = 15360 - 150 - 300;
   constexpr double kFichaOnMapTabs = 9830.4;
   for (const forms::Control* control : main().controls()) {
     if (control->container() != &main().Ficha) continue;
-    const double room = control->page() == 0 ? 15360 - 600 : kFichaOnMapTabs;
+    const double room = control->page() == 0 ? kFichaOnTheTables : kFichaOnMapTabs;
     EXPECT_LE(control->left() + control->width(), room) << control->name();
     EXPECT_LE(control->top() + control->height(), 775) << control->name();
   }
@@ -90,10 +91,12 @@ TEST_F(Controls, StandInOrderFromBackToFront) {
 }
 
 TEST_F(Controls, WhatIsShownByCodeIsStoredHidden) {
-  for (const forms::Control* control : std::initializer_list<const forms::Control*>{
-           &main().Submenu, &main().SubMenu2, &main().txtEspere, &main().txtespere1, &main().ProgressBar1,
-           &main().Panel, &main().ComboProvincia}) {
-    EXPECT_FALSE(control->visible()) << control->name();
+  const std::set<const forms::Control*> hidden{
+      &main().Submenu,        &main().SubMenu2,  &main().txtEspere,           &main().txtespere1, &main().ProgressBar1,
+      &main().Panel,          &main().FichaAños, &main().FichaConsultasDatos, &main().Image1,     &main().PictureMapa,
+      &main().ComboProvincia, &main().lblVeldoria};
+  for (const forms::Control* control : main().controls()) {
+    EXPECT_EQ(control->visible(), !hidden.contains(control)) << control->name();
   }
   EXPECT_EQ(main().Ficha.tab(), 0);
 }

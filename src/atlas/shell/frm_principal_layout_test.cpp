@@ -63,6 +63,15 @@ TEST_F(Layout, TablesTabFillsTheWindowAndSendsNothing) {
   EXPECT_EQ(world.take({"do", "eval", "find"}), (Lines{"find Seleccionar mapa temático none"}));
 }
 
+TEST_F(Layout, TablesTabClosesTheSelector) {
+  startOnTab(0);
+  selector().show();
+  world.take();
+  main().userResize(20000, 10000);
+  EXPECT_EQ(world.take({"find", "hide", "unload"}),
+            (Lines{"find Seleccionar mapa temático found", "hide frmTematicos", "unload frmTematicos"}));
+}
+
 TEST_F(Layout, MinimisingLeavesEverythingRestoringLaysOutAgain) {
   start();
   main().userMinimize();

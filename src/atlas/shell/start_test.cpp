@@ -37,10 +37,26 @@ TEST_F(Start, DoubleClickDoesTheSameAtOnceAndTheTimerNeverFires) {
   EXPECT_EQ(world.take(), Lines{});
 }
 
-TEST_F(Start, LoadOnTheStatisticsTabOpensTheStatisticsMap) {
+TEST_F(Start, ADoubleClickOnThePictureIsOneOnTheSplash) {
+  atlas.Main();
+  world.take();
+  atlas.frmInicio().Image1.DblClick.raise();
+  EXPECT_EQ(world.take({"load", "show", "unload", "set Timer1"}),
+            (Lines{"load frmPrincipal", "show frmPrincipal", "unload frmInicio"}));
+}
+
+TEST_F(Start, LoadTurnsToTheStatisticsTabWhichOpensItsMap) {
   atlas.Main();
   atlas.frmInicio().Timer1.elapse();
-  EXPECT_EQ(world.take({"do run application"}),
+  EXPECT_EQ(world.take({"set Ficha.Tab", "do run application"}),
+            (Lines{"set Ficha.Tab 3",
+                   "do run application \"C:\\Estudio\\Tablas\\Estadisticas\\Estadisticas.wor\""}));
+}
+
+TEST_F(Start, LoadOnTheStatisticsTabOpensItsMapWithoutTurningToIt) {
+  start();
+  main().Load.raise();
+  EXPECT_EQ(world.take({"set Ficha", "do set map", "do run application"}),
             (Lines{"do run application \"C:\\Estudio\\Tablas\\Estadisticas\\Estadisticas.wor\""}));
 }
 
@@ -79,6 +95,16 @@ TEST_F(Unload, TablesTabSendsNothing) {
   startOnTab(0);
   main().LblSalir.userClick();
   EXPECT_EQ(world.take(), (Lines{"unload frmPrincipal"}));
+}
+
+TEST_F(Unload, TablesTabLeavesAnEngineThatIsStillThereAlone) {
+  start();
+  world.failAt("do set map layer 1", failures::kEngineRejected);
+  main().Ficha.userPick(0);
+  world.take();
+  main().userClose();
+  EXPECT_EQ(world.take(), (Lines{"unload frmPrincipal"}));
+  EXPECT_NE(atlas.motormapa, nullptr);
 }
 
 TEST_F(Unload, AFailureSkipsTheRestOfTheHandler) {

@@ -42,8 +42,9 @@ TEST_F(Selector, LoadStandsAtTheMainWindowsFootAndRestoresTheChoiceOpeningNothin
   world.lines.clear();
   selector().load();
   EXPECT_EQ(world.take(), (Lines{"load frmTematicos", "set frmTematicos.Top 10380", "set frmTematicos.Left 850",
-                                 "set CmbMarco.ListIndex 0", "set CmbUnidad.ListIndex 1", "set CmbSexo.ListIndex 0",
-                                 "set CmbIndicador.ListIndex 1", "set CmbUnidad.Enabled True"}));
+                                 "set CmbMarco.Text \"Veldoria\"", "set CmbUnidad.Text \"Zonas básicas\"",
+                                 "set CmbSexo.Text \"Ambos sexos\"", "set CmbIndicador.Text \"Población\"",
+                                 "set CmbUnidad.Enabled True"}));
 }
 
 TEST_F(Selector, WithoutARememberedChoiceTheBoxesStayAsStored) {
@@ -61,6 +62,30 @@ TEST_F(Selector, ARememberedProvinceDisablesTheUnit) {
   selector().load();
   EXPECT_FALSE(selector().CmbUnidad.enabled());
   EXPECT_EQ(selector().CmbSexo.text(), "Mujeres");
+}
+
+TEST_F(Selector, ARememberedChoiceThatIsNoItemEndsTheLoadAndTheBoxesAnswerNothing) {
+  selector().unload();
+  atlas.SeleccionTematica = {"Fallecidos", "Veldoria", "Comarcas", "Mujeres"};
+  world.lines.clear();
+  selector().load();
+  EXPECT_EQ(world.take({"set Cmb", "msgbox"}), (Lines{"set CmbMarco.Text \"Veldoria\""}));
+  selector().CmbSexo.userPick(1);
+  selector().BtnTematico.userClick();
+  EXPECT_EQ(world.take(), Lines{});
+}
+
+TEST_F(Selector, TheButtonWithNoFrameChosenAsksForAProvincesMap) {
+  atlas.SeleccionTematica = {};
+  selector().unload();
+  selector().load();
+  selector().CmbUnidad.userPick(0);
+  selector().CmbSexo.userPick(1);
+  selector().CmbIndicador.userPick(0);
+  world.lines.clear();
+  selector().BtnTematico.userClick();
+  EXPECT_EQ(world.take({"dir"}), (Lines{kMaps + "1999\\Hombres\\\\Fallecidos.wor"}));
+  EXPECT_EQ(atlas.RutaTematica, "Hombres\\\\Fallecidos.wor");
 }
 
 TEST_F(Selector, AChoiceOpensItsMapStepByStep) {

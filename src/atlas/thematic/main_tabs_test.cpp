@@ -50,6 +50,15 @@ TEST_F(MainTabs, TablesTabShowsThePageAndPutsTheSelectorsBack) {
   EXPECT_EQ(atlas.motormapa, nullptr);
 }
 
+TEST_F(MainTabs, TablesTabEnteredAgainKeepsTheProvinceBoxShown) {
+  startOnTab(0);
+  main().ComboTabla.userPick(1);
+  main().Ficha.userPick(3);
+  main().Ficha.userPick(0);
+  EXPECT_EQ(main().ComboTabla.listIndex(), 0);
+  EXPECT_TRUE(main().ComboProvincia.visible());
+}
+
 TEST_F(MainTabs, ThematicTabOpensTheDefaultMap) {
   start();
   atlas.RutaTematica = "x";

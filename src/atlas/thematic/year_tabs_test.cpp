@@ -50,9 +50,14 @@ TEST_F(YearTabs, DataTabKeepsTheProvinceView) {
 TEST_F(YearTabs, HalfACurrentUnitSendsNothingMore) {
   startOnTab(2);
   main().OptProvincias.userRelease();
-  atlas.unit = {"Provincias", ""};
-  world.lines.clear();
-  EXPECT_EQ(changeYear(2).size(), 5U);
+  for (const CurrentUnit& half : {CurrentUnit{"Provincias", ""}, CurrentUnit{"", "Norte"}}) {
+    atlas.unit = half;
+    world.lines.clear();
+    EXPECT_EQ(changeYear(2),
+              (Lines{"set Panel.Visible True", "eval mapperinfo(frontwindow(),9) = 3",
+                     "do set map layer 1 label default layer 2 label default", kYearMap2001, "set Panel.Visible False"}))
+        << half.Tabla << half.Nombre;
+  }
 }
 
 TEST_F(YearTabs, AProvinceIsShownAgainInTheNewYear) {

@@ -38,8 +38,17 @@ TEST(HeadlessFiles, TheDiskAndWhatAScriptSaysOfIt) {
 
   files.copy(base + "\\tablas\\UNO.wor", base + "\\Tablas\\copia.wor");
   EXPECT_EQ(files.lookUp(base + "\\Tablas\\copia.wor"), "copia.wor");
-  EXPECT_THROW(files.copy(base + "\\nada", base + "\\Tablas\\otra"), Failure);
-  EXPECT_THROW(files.copy(base + "\\Tablas\\Uno.wor", base + "\\nada\\otra"), Failure);
+  const auto failureOf = [&](const std::string& from, const std::string& to) {
+    try {
+      files.copy(base + from, base + to);
+    } catch (const Failure& failure) {
+      return std::to_string(failure.number()) + " " + failure.description();
+    }
+    return std::string();
+  };
+  EXPECT_EQ(failureOf("\\nada", "\\Tablas\\otra"), "53 No se ha encontrado el archivo");
+  EXPECT_EQ(failureOf("\\Tablas\\1999", "\\Tablas\\otra"), "53 No se ha encontrado el archivo") << "a folder is no file";
+  EXPECT_EQ(failureOf("\\Tablas\\Uno.wor", "\\nada\\otra"), "75 Error de acceso a la ruta o al archivo");
 
   files.pretendNoFile(base + "\\TABLAS\\Uno.wor");
   EXPECT_EQ(files.lookUp(base + "\\Tablas\\Uno.wor"), "");

@@ -13,6 +13,7 @@ Failure failureNumbered(int number, const std::string& description) {
                          failures::subscript(),
                          failures::typeMismatch(),
                          failures::fileNotFound(),
+                         failures::pathAccess(),
                          failures::noObject(),
                          failures::invalidPropertyValue(),
                          failures::readOnlyText(),
@@ -24,20 +25,24 @@ Failure failureNumbered(int number, const std::string& description) {
 
 void Faults::failNext(const std::string& pattern, const Failure& failure) { byLine_.push_back({pattern, failure}); }
 
-void Faults::failEngineCall(int number, const Failure& failure) {
-  byNumber_.push_back({engineCalls_ + number, failure});
+int Faults::calls(CallKind kind) const {
+  const auto counted = calls_.find(kind);
+  return counted == calls_.end() ? 0 : counted->second;
 }
 
-std::optional<Failure> Faults::take(std::string_view line, bool isEngineCall) {
+void Faults::failCall(CallKind kind, int number, const Failure& failure) {
+  byNumber_.push_back({kind, calls(kind) + number, failure});
+}
+
+std::optional<Failure> Faults::take(std::string_view line, CallKind kind) {
   std::optional<Failure> result;
-  if (isEngineCall) {
-    ++engineCalls_;
-    const auto due = std::ranges::find(byNumber_, engineCalls_, &ByNumber::number);
-    if (due != byNumber_.end()) {
-      result.emplace(due->failure);
-      byNumber_.erase(due);
-      return result;
-    }
+  const int number = ++calls_[kind];
+  const auto numbered = std::ranges::find_if(
+      byNumber_, [&](const ByNumber& fault) { return fault.kind == kind && fault.number == number; });
+  if (numbered != byNumber_.end()) {
+    result.emplace(numbered->failure);
+    byNumber_.erase(numbered);
+    return result;
   }
   const auto due =
       std::ranges::find_if(byLine_, [&](const ByLine& fault) { return matchesWildcard(fault.pattern, line); });

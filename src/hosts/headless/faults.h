@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,18 +13,22 @@ namespace headless {
 // A failure by its number, with the description that goes with it, or another one.
 [[nodiscard]] Failure failureNumbered(int number, const std::string& description = "");
 
+// Whose an effect is: the map engine's, the machine's around it (registry, files, programs), or any other.
+enum class CallKind { other, engine, machine };
+
 // Failures that wait for effects; each happens once.
 class Faults {
  public:
   // The next effect whose line, up to its result, matches the pattern ("*" is a wildcard) fails.
   void failNext(const std::string& pattern, const Failure& failure);
-  // The engine call of this number fails; the next one is number 1.
-  void failEngineCall(int number, const Failure& failure);
+  // The engine's or the machine's call of this number fails; the next one is number 1.
+  void failCall(CallKind kind, int number, const Failure& failure);
 
-  // The failure that an effect is to have, if any. `isEngineCall` counts it among the engine's.
-  [[nodiscard]] std::optional<Failure> take(std::string_view line, bool isEngineCall);
+  // The failure that an effect is to have, if any.
+  [[nodiscard]] std::optional<Failure> take(std::string_view line, CallKind kind = CallKind::other);
 
-  [[nodiscard]] int engineCalls() const { return engineCalls_; }
+  // How many effects of the kind there were.
+  [[nodiscard]] int calls(CallKind kind) const;
 
  private:
   struct ByLine {
@@ -31,13 +36,14 @@ class Faults {
     Failure failure;
   };
   struct ByNumber {
+    CallKind kind;
     int number;
     Failure failure;
   };
 
   std::vector<ByLine> byLine_;
   std::vector<ByNumber> byNumber_;
-  int engineCalls_ = 0;
+  std::map<CallKind, int> calls_;
 };
 
 }  // namespace headless

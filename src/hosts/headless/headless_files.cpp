@@ -12,8 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kPathOrFileAccess = 75;
-
 std::string folded(const std::string& path) {
   std::string result = platform::foldedFileName(path);
   std::ranges::replace(result, '/', '\\');
@@ -60,7 +58,7 @@ void HeadlessFiles::copy(const std::string& from, const std::string& to) {
   const auto pretended = pretended_.find(folded(from));
   const fs::path source = platform::machinePath(from);
   std::error_code problem;
-  const bool isMissing = (pretended != pretended_.end() && pretended->second.empty()) || !fs::is_regular_file(source);
+  const bool isMissing = (pretended != pretended_.end() && pretended->second.empty()) || !fs::is_regular_file(source, problem);
   if (isMissing) throw failures::fileNotFound();
   const fs::path target = platform::machinePath(to);
   const bool existed = fs::exists(target, problem);
@@ -68,7 +66,7 @@ void HeadlessFiles::copy(const std::string& from, const std::string& to) {
   if (!problem) return;
   std::error_code ignored;
   if (!existed) fs::remove(target, ignored);
-  throw Failure(kPathOrFileAccess, problem.message());
+  throw failures::pathAccess();
 }
 
 }  // namespace headless

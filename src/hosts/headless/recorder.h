@@ -11,7 +11,7 @@ namespace headless {
 // Writes the program's effects and lets those fail that are to fail. Around any host's ports it gives the same text.
 class Recorder {
  public:
-  enum class Call { host, engine };
+  using Call = CallKind;
 
   Recorder(Transcript& transcript, Faults& faults) : transcript_(transcript), faults_(faults) {}
 
@@ -19,7 +19,7 @@ class Recorder {
 
   // An effect without a result: its line, then the deed. A failure is written after it and passed on.
   template <class Deed>
-  void perform(const std::string& line, Deed deed, Call call = Call::host) {
+  void perform(const std::string& line, Deed deed, Call call = Call::other) {
     transcript_.write(line);
     if (const auto fault = waiting(line, call)) fail(*fault);
     try {
@@ -32,7 +32,7 @@ class Recorder {
   // An effect with a result: asked first, then its line with what `describe` makes of the result; a failing one has the
   // line without a result.
   template <class Ask, class Describe>
-  auto ask(const std::string& line, Ask question, Describe describe, Call call = Call::host) {
+  auto ask(const std::string& line, Ask question, Describe describe, Call call = Call::other) {
     if (const auto fault = waiting(line, call)) {
       transcript_.write(line);
       fail(*fault);
@@ -48,8 +48,8 @@ class Recorder {
   }
 
   // The failure that the effect of this line is to have.
-  [[nodiscard]] std::optional<Failure> waiting(const std::string& line, Call call = Call::host) {
-    return faults_.take(transcript_.asWritten(line), call == Call::engine);
+  [[nodiscard]] std::optional<Failure> waiting(const std::string& line, Call call = Call::other) {
+    return faults_.take(transcript_.asWritten(line), call);
   }
 
  private:

@@ -34,7 +34,7 @@ void RecordingWindows::setZOrder(platform::WindowHandle window, platform::ZOrder
 
 RecordingRegistry::Opened RecordingRegistry::openKey(const std::string& path, std::uint32_t access) {
   const std::string line = "regopen " + path + " " + std::to_string(access);
-  const auto fault = recorder_.waiting(line);
+  const auto fault = recorder_.waiting(line, Recorder::Call::machine);
   const Opened opened = fault ? Opened{fault->number(), 0} : inner_.openKey(path, access);
   recorder_.transcript().write(line + " = " + std::to_string(opened.status));
   return opened;
@@ -46,7 +46,7 @@ RecordingRegistry::Queried RecordingRegistry::queryValue(platform::RegistryKey k
     return "regquery " + name + " " + std::to_string(queried.type) + " " + std::to_string(queried.size);
   };
   Queried queried = inner_.queryValue(key, name, bufferSize);
-  if (const auto fault = recorder_.waiting(line(queried)))
+  if (const auto fault = recorder_.waiting(line(queried), Recorder::Call::machine))
     queried = {.status = fault->number(), .type = 0, .size = 0, .data = {}};
   recorder_.transcript().write(line(queried) + " = " + std::to_string(queried.status));
   return queried;
@@ -54,15 +54,16 @@ RecordingRegistry::Queried RecordingRegistry::queryValue(platform::RegistryKey k
 
 std::string RecordingFiles::lookUp(const std::string& path) {
   return recorder_.ask(
-      "dir " + path, [&] { return inner_.lookUp(path); }, [](const std::string& name) { return name; });
+      "dir " + path, [&] { return inner_.lookUp(path); }, [](const std::string& name) { return name; },
+      Recorder::Call::machine);
 }
 
 void RecordingFiles::copy(const std::string& from, const std::string& to) {
-  recorder_.perform("copy " + from + " -> " + to, [&] { inner_.copy(from, to); });
+  recorder_.perform("copy " + from + " -> " + to, [&] { inner_.copy(from, to); }, Recorder::Call::machine);
 }
 
 void RecordingPrograms::start(const std::string& commandLine) {
-  recorder_.perform("shell " + commandLine, [&] { inner_.start(commandLine); });
+  recorder_.perform("shell " + commandLine, [&] { inner_.start(commandLine); }, Recorder::Call::machine);
 }
 
 void RecordingPrograms::end() {

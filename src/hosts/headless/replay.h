@@ -50,8 +50,10 @@ class Replay {
   // left the program.
   void runLine(std::string_view text);
 
-  // Lets engine calls fail by number without a script line.
+  // Lets calls fail by number without a script line.
   [[nodiscard]] Faults& faults() { return faults_; }
+  // The desktop that the program believes in: other programs' windows may be put on it.
+  [[nodiscard]] FakeWindows& windows() { return windows_; }
 
  private:
   // A verb of the script language. Preparing ones may stand before "start"; the others need the program running.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -39,6 +40,17 @@ class ReplayTest : public ::testing::Test {
     return "";
   }
 };
+
+TEST_F(ReplayTest, TheEnginesOwnFrameIsClosed) {
+  headless::ReplayOptions options;
+  options.applicationFolder = emptyFolder();
+  headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
+  replay.windows().addWindow("MapInfo");
+  replay.run("file <app>\\Tablas\\Estadisticas\\Estadisticas.wor\nstart\ntick");
+  const auto found = std::ranges::find(lines, "findwindow \"MapInfo\" = found");
+  ASSERT_LT(found, lines.end() - 1);
+  EXPECT_EQ(*(found + 1), "closewindow \"MapInfo\"");
+}
 
 TEST_F(ReplayTest, SaysWhatIsWrongAndWhere) {
   struct Case {

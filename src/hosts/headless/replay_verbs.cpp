@@ -152,7 +152,7 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
          const std::string description = line.hasMore() ? line.text("the text") : "";
          line.finish();
          if (call < 1) throw ScriptError("failat: engine calls are counted from 1");
-         r.faults_.failEngineCall(call, failureNumbered(number, description));
+         r.faults_.failCall(CallKind::engine, call, failureNumbered(number, description));
        }},
       {"show", false,
        [](Replay& r, ScriptLine& line) {

@@ -72,21 +72,26 @@ TEST(Faults, EachHappensOnceToTheEffectThatItWaitsFor) {
   headless::Faults faults;
   faults.failNext("do Select*", headless::failureNumbered(91));
   faults.failNext("do *", headless::failureNumbered(429, "no"));
-  EXPECT_FALSE(faults.take("eval x", true).has_value());
-  EXPECT_EQ(faults.take("do Select * from x", true)->number(), 91);
-  EXPECT_EQ(faults.take("do Select * from x", true)->description(), "no");
-  EXPECT_FALSE(faults.take("do Select * from x", true).has_value());
+  EXPECT_FALSE(faults.take("eval x", headless::CallKind::engine).has_value());
+  EXPECT_EQ(faults.take("do Select * from x", headless::CallKind::engine)->number(), 91);
+  EXPECT_EQ(faults.take("do Select * from x", headless::CallKind::engine)->description(), "no");
+  EXPECT_FALSE(faults.take("do Select * from x", headless::CallKind::engine).has_value());
 }
 
-TEST(Faults, EngineCallsAreCountedFromWhereTheFaultWasSet) {
+TEST(Faults, CallsAreCountedByKindFromWhereTheFaultWasSet) {
   headless::Faults faults;
-  EXPECT_FALSE(faults.take("do a", true).has_value());
-  faults.failEngineCall(2, headless::failureNumbered(6));
-  EXPECT_FALSE(faults.take("do b", true).has_value());
-  EXPECT_FALSE(faults.take("copy a -> b", false).has_value());
-  EXPECT_EQ(faults.take("eval c", true)->number(), 6);
-  EXPECT_FALSE(faults.take("eval c", true).has_value());
-  EXPECT_EQ(faults.engineCalls(), 4);
+  EXPECT_FALSE(faults.take("do a", headless::CallKind::engine).has_value());
+  faults.failCall(headless::CallKind::engine, 2, headless::failureNumbered(6));
+  EXPECT_FALSE(faults.take("do b", headless::CallKind::engine).has_value());
+  EXPECT_FALSE(faults.take("copy a -> b", headless::CallKind::machine).has_value());
+  EXPECT_EQ(faults.take("eval c", headless::CallKind::engine)->number(), 6);
+  EXPECT_FALSE(faults.take("eval c", headless::CallKind::engine).has_value());
+  EXPECT_EQ(faults.calls(headless::CallKind::engine), 4);
+  EXPECT_EQ(faults.calls(headless::CallKind::machine), 1);
+  faults.failCall(headless::CallKind::machine, 1, headless::failureNumbered(53));
+  EXPECT_FALSE(faults.take("do d", headless::CallKind::engine).has_value());
+  EXPECT_FALSE(faults.take("msgbox 0").has_value());
+  EXPECT_EQ(faults.take("shell x", headless::CallKind::machine)->number(), 53);
 }
 
 TEST(Faults, KnownNumbersHaveTheirDescriptions) {
