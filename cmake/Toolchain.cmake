@@ -6,9 +6,13 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
+# The cache is told where the tree stands, so that another checkout of it finds the same objects.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+                                  "${CCACHE_PROGRAM}")
 endif()
 
 option(VELDORIA_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)

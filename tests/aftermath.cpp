@@ -28,9 +28,9 @@ struct WithoutEngine {
 };
 
 const std::vector<WithoutEngine>& withoutEngine() {
-  static const std::vector<std::string_view> query{
-      "set txtEspere.Visible True",      "set txtespere1.Visible True", "set ProgressBar1.Visible True",
-      "set ProgressBar1.Value 20",       kNoEngine};
+  static const std::vector<std::string_view> query{"set txtEspere.Visible True", "set txtespere1.Visible True",
+                                                   "set ProgressBar1.Visible True", "set ProgressBar1.Value 20",
+                                                   kNoEngine};
   static const std::vector<WithoutEngine> rules{
       // From the tables on the engine is created anew; the other tabs cannot be left.
       {"> select Ficha Datos", kTables, {"set FichaConsultasDatos.Visible False", "*"}},
@@ -43,7 +43,9 @@ const std::vector<WithoutEngine>& withoutEngine() {
        kAnyTab,
        {"set txtBuscar.Text *", "clear ListaResultado", kNoEngine, "clear ListaResultado"}},
       // A choice in the selector is remembered but opens nothing.
-      {"> select CmbMarco *", kAnyTab, {"?set CmbUnidad.ListIndex 1", "set CmbUnidad.Enabled *", "clear TreeView1"}},
+      {"> select CmbMarco *",
+       kAnyTab,
+       {"?set CmbUnidad.ListIndex 1", "?clear TreeView1", "set CmbUnidad.Enabled *", "clear TreeView1"}},
       {"> select Cmb*", kAnyTab, {"clear TreeView1"}},
       {"> mouseup OptProvincias", kAnyTab, {"?set OptZbs.Value False", "set OptProvincias.Value True"}},
       {"> click PDF*", kAnyTab, {"msgbox 0 * \"Acrobat Reader no está instalado correctamente *"}},
@@ -64,7 +66,8 @@ struct Difference {
 
 constexpr std::array kDifferences{
     // The unit shown, or the object picked, was not remembered.
-    Difference{"> select FichaAños *", "do set map layer 1 label default layer 2 label default", "set Panel.Visible False"},
+    Difference{"> select FichaAños *", "do set map layer 1 label default layer 2 label default",
+               "set Panel.Visible False"},
     Difference{"> select FichaAños *", "do set map layer 1 label default layer 2 label default",
                "do set map layer 1 label default display global layer 2 label default display off"},
     Difference{"> select FichaAños *", "eval Tableinfo(1,1)*", "set Panel.Visible False"},
@@ -92,9 +95,9 @@ constexpr std::array kAnswers{std::string_view("eval "), std::string_view("dir "
                               std::string_view("regopen "), std::string_view("regquery ")};
 
 // Lines that lead nowhere by themselves are passed over in the search for the next handler.
-constexpr std::array kPassive{std::string_view("> show "),   std::string_view("> tree"),
-                              std::string_view("> answer "), std::string_view("> save"),
-                              std::string_view("> file "),   std::string_view("> nofile "),
+constexpr std::array kPassive{std::string_view("> show "),        std::string_view("> tree"),
+                              std::string_view("> answer "),      std::string_view("> save"),
+                              std::string_view("> file "),        std::string_view("> nofile "),
                               std::string_view("> locationname ")};
 
 bool beginsWithOneOf(const auto& words, const std::string& line) {
@@ -125,8 +128,8 @@ struct State {
   bool hasEngine = false;
 
   void follow(const Block& block) {
-    static constexpr std::array kTabs{std::string_view("Tablas"), std::string_view("Mapas"),
-                                      std::string_view("Datos"), std::string_view("Veldoria")};
+    static constexpr std::array kTabs{std::string_view("Tablas"), std::string_view("Mapas"), std::string_view("Datos"),
+                                      std::string_view("Veldoria")};
     for (std::size_t i = 0; i < block.lines.size(); ++i) {
       const std::string& line = block.lines[i];
       if (line.starts_with("set Ficha.Tab ")) tab = line.back() - '0';

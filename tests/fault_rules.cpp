@@ -38,11 +38,11 @@ const std::vector<Rule>& rules() {
                                                       "eval windowid(1)*",      "eval WindowID(1)*",
                                                       "do set window *",        "form frmInicio unload"};
   // What the main window looks like without a map; an engine that was not found ends the program instead.
-  static const std::vector<std::string_view> comingUpWithoutMap{
-      "form frmPrincipal show", "set *", "findwindow *", "eval windowid(1)*", "form frmInicio unload"};
-  static const std::vector<std::string_view> engineNotFound{
-      "regquery Path 0 0 = 6", "msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *", "form frmInicio unload",
-      "form frmPrincipal unload", "end"};
+  static const std::vector<std::string_view> comingUpWithoutMap{"form frmPrincipal show", "set *", "findwindow *",
+                                                                "eval windowid(1)*", "form frmInicio unload"};
+  static const std::vector<std::string_view> engineNotFound{"regquery Path 0 0 = 6",
+                                                            "msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *",
+                                                            "form frmInicio unload", "form frmPrincipal unload", "end"};
   static const std::vector<std::string_view> anything{"*"};
   static const std::vector<std::string_view> nothing;
   static const std::vector<Rule> all = [] {
@@ -246,9 +246,12 @@ bool takeReport(Lines& rest) {
   return true;
 }
 
+// `wanted` is a line, or several with "|" between them.
 bool holdsOneOf(const Lines& lines, std::string_view wanted) {
-  for (const auto line : std::views::split(wanted, '|')) {
-    if (std::ranges::find(lines, std::string_view(line.begin(), line.end())) != lines.end()) return true;
+  for (std::size_t at = 0; at <= wanted.size();) {
+    const std::size_t end = std::min(wanted.find('|', at), wanted.size());
+    if (std::ranges::find(lines, wanted.substr(at, end - at)) != lines.end()) return true;
+    at = end + 1;
   }
   return false;
 }

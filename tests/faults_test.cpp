@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "aftermath.h"
@@ -105,7 +107,7 @@ TEST(SampleStudy, DistinctCallsAreTheFirstTheSecondAndTheLast) {
 class SampleStudyFaults : public ::testing::TestWithParam<CallKind> {};
 
 TEST_P(SampleStudyFaults, EachDistinctCallMayFail) {
-  const std::string folder = *scenarios::sampleStudy();
+  const std::string folder = scenarios::sampleStudy();
   scenarios::Run reference(folder);
   reference.replay().run(scenarios::kSampleScript);
   const std::vector<std::string_view> beginnings =
@@ -117,7 +119,7 @@ TEST_P(SampleStudyFaults, EachDistinctCallMayFail) {
 }
 
 INSTANTIATE_TEST_SUITE_P(IfMade, SampleStudyFaults,
-                         ::testing::ValuesIn(scenarios::sampleStudy()
+                         ::testing::ValuesIn(scenarios::isSampleStudyNamed()
                                                  ? std::vector{CallKind::engine, CallKind::machine}
                                                  : std::vector<CallKind>{}),
                          [](const auto& kind) { return kind.param == CallKind::engine ? "Engine" : "Machine"; });
@@ -141,8 +143,51 @@ TEST(FaultRules, NoticeWhatMustNotFollow) {
            Case{{"> select CmbZonas x", "do Select x", error, report, "do Select y"}, false},
            Case{{"> select Ficha Datos", "set ProgressBar1.Value 10", "do run application", error}, false},
            Case{{"> select Ficha Datos", "do set map layer 1 label default"}, false},
+           Case{{"> tick", "regopen x\\Mapinfor.exe 1 = 75", "end"}, true},
+           Case{{"> tick", "regopen x\\Mapinfor.exe 1 = 75", "form frmInicio unload"}, false},
+           Case{{"> tick", "regopen x\\ACRORD32.exe 1 = 75", "do x", "form frmInicio unload"}, true},
+           Case{{"> click LblUso", "shell x", std::string("error 75 ") + scenarios::kFaultText}, true},
+           Case{{"> click LblUso", "shell x", std::string("error 75 ") + scenarios::kFaultText, report}, false},
        }) {
     EXPECT_EQ(scenarios::complaintAbout(c.transcript).empty(), c.isRight) << c.transcript.front();
+  }
+}
+
+TEST(Aftermath, NoticesWhatTheNextHandlerMustNotDo) {
+  const std::string error = std::string("error -2147352567 ") + scenarios::kFaultText;
+  const Lines lost{"> select Ficha Datos", "create MapInfo.runtime #1", "do run application \"x\"", error,
+                   "release #1"};
+  const Lines kept{"> select Ficha Datos", "create MapInfo.runtime #1", "eval frontwindow()", error};
+  const std::string noObject =
+      "msgbox 0 \"Mortalidad en Veldoria 1999-2002\" \"La variable de tipo Object o la variable de bloque With no está "
+      "establecida\" = ok";
+  struct Case {
+    Lines before;
+    Lines next;
+    Lines undisturbed;
+    bool isRight;
+  };
+  for (const Case& c : {
+           Case{lost, {"> click Image4 0"}, {"> click Image4 0", "do run menu command 1705"}, true},
+           Case{lost, {"> click Image4 0", noObject}, {"> click Image4 0", "do run menu command 1705"}, false},
+           Case{lost, {"> select Ficha Mapas"}, {"> select Ficha Mapas", "do set map"}, true},
+           Case{lost, {"> select Ficha Mapas", "create MapInfo.runtime #2"}, {"> select Ficha Mapas", "do x"}, false},
+           Case{lost,
+                {"> select CmbBuscar x", "set txtBuscar.Text \"\"", "clear ListaResultado", noObject,
+                 "clear ListaResultado"},
+                {"> select CmbBuscar x", "do Select x"},
+                true},
+           Case{lost, {"> select CmbBuscar x"}, {"> select CmbBuscar x", "do Select x"}, false},
+           Case{kept, {"> click Image4 0", "do x"}, {"> click Image4 0", "do x"}, true},
+           Case{kept, {"> click Image4 0"}, {"> click Image4 0", "do x"}, false},
+           Case{kept, {"> click Image4 0", "eval x = 2"}, {"> click Image4 0", "eval x = 1", "do y"}, true},
+           Case{kept, {"> click Image4 0", "eval z = 2"}, {"> click Image4 0", "eval x = 1", "do y"}, false},
+       }) {
+    Lines transcript = c.before;
+    transcript.insert(transcript.end(), c.next.begin(), c.next.end());
+    Lines undisturbed{c.before.front()};
+    undisturbed.insert(undisturbed.end(), c.undisturbed.begin(), c.undisturbed.end());
+    EXPECT_EQ(scenarios::complaintAboutNext(transcript, undisturbed, {}).empty(), c.isRight) << c.next.back();
   }
 }
 

@@ -53,6 +53,8 @@ class Run {
   Run(const std::string& name, const Study& study);
   // A program with the embedded engine on the study in this folder.
   explicit Run(const std::string& studyFolder);
+  Run(const Run&) = delete;
+  Run& operator=(const Run&) = delete;
 
   [[nodiscard]] headless::Replay& replay() { return *replay_; }
   // What was written so far.

@@ -15,6 +15,7 @@
 #include "motor/language/workspace.h"
 #include "motor/session/headless_windows.h"
 #include "motor/session/session.h"
+#include "motor/session/table_files.h"
 #include "text/failure.h"
 #include "text/number_text.h"
 
@@ -161,7 +162,7 @@ int open(const CommandLine& line) {
   motor::HeadlessWindows windows =
       line.size ? motor::HeadlessWindows(line.size->width(), line.size->height()) : motor::HeadlessWindows();
   motor::SessionOptions options;
-  options.roots = {workspace.parent_path()};
+  options.roots = motor::rootsOf(workspace);
   motor::Session session(windows, options);
   session.setCallback(std::make_shared<PrintedCallback>());
   if (!succeeds([&] { session.run("run application \"" + workspace.string() + "\""); })) return 1;

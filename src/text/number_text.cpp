@@ -11,6 +11,9 @@
 namespace text {
 namespace {
 
+constexpr double kExponentFrom = 1e15;
+constexpr std::size_t kLongestPlain = 40;
+
 template <class Integer>
 Integer toInteger(std::string_view s) {
   const double rounded = std::nearbyint(toNumber(s));
@@ -22,13 +25,33 @@ Integer toInteger(std::string_view s) {
 
 }  // namespace
 
-std::string number(double value) {
+std::string plainNumber(double value) {
   if (value == 0) return "0";
-  std::array<char, 512> buffer{};
-  const bool isPlain = std::fabs(value) < 1e15 && std::fabs(value) >= 1e-15;
-  const auto format = isPlain ? std::chars_format::fixed : std::chars_format::general;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format).ptr;
-  return {buffer.data(), end};
+  std::array<char, 32> buffer{};
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value), std::chars_format::scientific);
+  std::string digits(buffer.data(), end.ptr);
+  const std::size_t e = digits.find('e');
+  const int exponent = std::stoi(digits.substr(e + 1));
+  digits.erase(e);
+  if (digits.size() > 1) digits.erase(1, 1);
+  if (exponent < 0) {
+    digits.insert(0, "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0'));
+  } else {
+    const std::size_t whole = static_cast<std::size_t>(exponent) + 1;
+    if (digits.size() < whole) digits.append(whole - digits.size(), '0');
+    if (digits.size() > whole) digits.insert(whole, 1, '.');
+  }
+  return value < 0 ? "-" + digits : digits;
+}
+
+std::string number(double value) {
+  if (std::fabs(value) < kExponentFrom) {
+    std::string plain = plainNumber(value);
+    if (plain.size() <= kLongestPlain + (value < 0 ? 1U : 0U)) return plain;
+  }
+  std::array<char, 32> buffer{};
+  return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
 
 std::string number(std::int64_t value) { return std::to_string(value); }

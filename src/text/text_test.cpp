@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
 
 #include "text/collation.h"
@@ -55,8 +56,39 @@ TEST(NumberText, WritesShortestDigits) {
                                                  {-1.5, "-1.5"},
                                                  {0.1 + 0.2, "0.30000000000000004"},
                                                  {1e14, "100000000000000"},
-                                                 {1e22, "1e+22"}};
+                                                 {1e15, "1e+15"},
+                                                 {1e22, "1e+22"},
+                                                 {123456789012345.5, "123456789012345.5"},
+                                                 {-999999999999999.9, "-999999999999999.9"},
+                                                 {1e-16, "0.0000000000000001"},
+                                                 {-1.5e-16, "-0.00000000000000015"},
+                                                 {1e-38, "0.00000000000000000000000000000000000001"},
+                                                 {-1e-38, "-0.00000000000000000000000000000000000001"},
+                                                 {1e-39, "1e-39"},
+                                                 {1.5e-38, "1.5e-38"},
+                                                 {5e-324, "5e-324"}};
   for (const auto& [value, expected] : rows) EXPECT_EQ(text::number(value), expected);
+}
+
+TEST(NumberText, WritesDigitsWithoutExponent) {
+  const std::pair<double, std::string> rows[] = {{0, "0"},
+                                                 {1.5e16, "15000000000000000"},
+                                                 {-1e22, "-10000000000000000000000"},
+                                                 {1e-3, "0.001"},
+                                                 {1e-42, "0." + std::string(41, '0') + "1"},
+                                                 {1e300, "1" + std::string(300, '0')}};
+  for (const auto& [value, expected] : rows) EXPECT_EQ(text::plainNumber(value), expected);
+}
+
+TEST(NumberText, ReadsBackWhatItWrites) {
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> mantissa(-10, 10);
+  std::uniform_int_distribution<int> exponent(-300, 300);
+  for (int i = 0; i < 10000; ++i) {
+    const double value = mantissa(random) * std::pow(10.0, exponent(random));
+    EXPECT_EQ(text::toNumber(text::number(value)), value);
+    EXPECT_EQ(text::toNumber(text::plainNumber(value)), value);
+  }
 }
 
 TEST(NumberText, ReadsNumbers) {

@@ -157,10 +157,9 @@ TEST_F(MapSession, AFailureOfNoPortIsShownWithoutANumber) {
   start();
   world.breakAt("do run application", "memoria agotada");
   atlas.AbrirMapa(kMap);
-  EXPECT_EQ(
-      world.take({"msgbox", "zorder 100 notopmost 83", "set ProgressBar1.Visible False"}),
-      (Lines{"msgbox 0 [Mortalidad en Veldoria 1999-2002] Error al cargar el mapa : memoria agotada 0",
-             "zorder 100 notopmost 83", "set ProgressBar1.Visible False"}));
+  EXPECT_EQ(world.take({"msgbox", "zorder 100 notopmost 83", "set ProgressBar1.Visible False"}),
+            (Lines{"msgbox 0 [Mortalidad en Veldoria 1999-2002] Error al cargar el mapa : memoria agotada 0",
+                   "zorder 100 notopmost 83", "set ProgressBar1.Visible False"}));
   EXPECT_NE(atlas.motormapa, nullptr);
 }
 

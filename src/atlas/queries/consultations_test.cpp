@@ -139,8 +139,8 @@ TEST_F(Consultations, AnEmptyValueEndsTheWalkWithItsFailure) {
   EXPECT_EQ(world.take({"msgbox", "eval Formatnumber", "set txtEspere"}),
             (Lines{"set txtEspere.Visible True", "eval Formatnumber$(round(Selection.valor,0.01)) = 10",
                    "msgbox 0 [Mortalidad en Veldoria 1999-2002] no existe la columna"}));
-  EXPECT_EQ(testing::describe(main().TreeView1),
-            (Lines{"1999 * 8388608", "Norte * 8388608", "  Hombres 192", "    General 8388608", "      Población: 10"}));
+  EXPECT_EQ(testing::describe(main().TreeView1), (Lines{"1999 * 8388608", "Norte * 8388608", "  Hombres 192",
+                                                        "    General 8388608", "      Población: 10"}));
   EXPECT_EQ(atlas.unit.Nombre, "");
 }
 

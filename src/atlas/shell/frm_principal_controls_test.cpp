@@ -92,9 +92,9 @@ TEST_F(Controls, StandInOrderFromBackToFront) {
 
 TEST_F(Controls, WhatIsShownByCodeIsStoredHidden) {
   const std::set<const forms::Control*> hidden{
-      &main().Submenu,        &main().SubMenu2,  &main().txtEspere,           &main().txtespere1, &main().ProgressBar1,
-      &main().Panel,          &main().FichaAños, &main().FichaConsultasDatos, &main().Image1,     &main().PictureMapa,
-      &main().ComboProvincia, &main().lblVeldoria};
+      &main().Submenu,      &main().SubMenu2,    &main().txtEspere,      &main().txtespere1,
+      &main().ProgressBar1, &main().Panel,       &main().FichaAños,      &main().FichaConsultasDatos,
+      &main().Image1,       &main().PictureMapa, &main().ComboProvincia, &main().lblVeldoria};
   for (const forms::Control* control : main().controls()) {
     EXPECT_EQ(control->visible(), !hidden.contains(control)) << control->name();
   }

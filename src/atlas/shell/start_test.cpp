@@ -49,8 +49,7 @@ TEST_F(Start, LoadTurnsToTheStatisticsTabWhichOpensItsMap) {
   atlas.Main();
   atlas.frmInicio().Timer1.elapse();
   EXPECT_EQ(world.take({"set Ficha.Tab", "do run application"}),
-            (Lines{"set Ficha.Tab 3",
-                   "do run application \"C:\\Estudio\\Tablas\\Estadisticas\\Estadisticas.wor\""}));
+            (Lines{"set Ficha.Tab 3", "do run application \"C:\\Estudio\\Tablas\\Estadisticas\\Estadisticas.wor\""}));
 }
 
 TEST_F(Start, LoadOnTheStatisticsTabOpensItsMapWithoutTurningToIt) {

@@ -53,9 +53,9 @@ TEST_F(YearTabs, HalfACurrentUnitSendsNothingMore) {
   for (const CurrentUnit& half : {CurrentUnit{"Provincias", ""}, CurrentUnit{"", "Norte"}}) {
     atlas.unit = half;
     world.lines.clear();
-    EXPECT_EQ(changeYear(2),
-              (Lines{"set Panel.Visible True", "eval mapperinfo(frontwindow(),9) = 3",
-                     "do set map layer 1 label default layer 2 label default", kYearMap2001, "set Panel.Visible False"}))
+    EXPECT_EQ(changeYear(2), (Lines{"set Panel.Visible True", "eval mapperinfo(frontwindow(),9) = 3",
+                                    "do set map layer 1 label default layer 2 label default", kYearMap2001,
+                                    "set Panel.Visible False"}))
         << half.Tabla << half.Nombre;
   }
 }

@@ -62,7 +62,7 @@ void install(QApplication& application) {
                              {QStringLiteral("DejaVu Sans Condensed"), QStringLiteral("DejaVu Sans")});
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(palette());
-  QApplication::setFont(font({.name = "Tahoma", .points = 9}));
+  QApplication::setFont(font({.name = "Verdana", .points = 9}));
   application.setStyleSheet(styleSheet());
 }
 

@@ -47,7 +47,8 @@ TEST(HeadlessFiles, TheDiskAndWhatAScriptSaysOfIt) {
     return std::string();
   };
   EXPECT_EQ(failureOf("\\nada", "\\Tablas\\otra"), "53 No se ha encontrado el archivo");
-  EXPECT_EQ(failureOf("\\Tablas\\1999", "\\Tablas\\otra"), "53 No se ha encontrado el archivo") << "a folder is no file";
+  EXPECT_EQ(failureOf("\\Tablas\\1999", "\\Tablas\\otra"), "53 No se ha encontrado el archivo")
+      << "a folder is no file";
   EXPECT_EQ(failureOf("\\Tablas\\Uno.wor", "\\nada\\otra"), "75 Error de acceso a la ruta o al archivo");
 
   files.pretendNoFile(base + "\\TABLAS\\Uno.wor");

@@ -58,7 +58,8 @@ void HeadlessFiles::copy(const std::string& from, const std::string& to) {
   const auto pretended = pretended_.find(folded(from));
   const fs::path source = platform::machinePath(from);
   std::error_code problem;
-  const bool isMissing = (pretended != pretended_.end() && pretended->second.empty()) || !fs::is_regular_file(source, problem);
+  const bool isMissing =
+      (pretended != pretended_.end() && pretended->second.empty()) || !fs::is_regular_file(source, problem);
   if (isMissing) throw failures::fileNotFound();
   const fs::path target = platform::machinePath(to);
   const bool existed = fs::exists(target, problem);

@@ -59,11 +59,13 @@ std::string RecordingFiles::lookUp(const std::string& path) {
 }
 
 void RecordingFiles::copy(const std::string& from, const std::string& to) {
-  recorder_.perform("copy " + from + " -> " + to, [&] { inner_.copy(from, to); }, Recorder::Call::machine);
+  recorder_.perform(
+      "copy " + from + " -> " + to, [&] { inner_.copy(from, to); }, Recorder::Call::machine);
 }
 
 void RecordingPrograms::start(const std::string& commandLine) {
-  recorder_.perform("shell " + commandLine, [&] { inner_.start(commandLine); }, Recorder::Call::machine);
+  recorder_.perform(
+      "shell " + commandLine, [&] { inner_.start(commandLine); }, Recorder::Call::machine);
 }
 
 void RecordingPrograms::end() {

@@ -20,6 +20,10 @@ Value RowScope::column(const std::string& table, double number, Position positio
   return layer_.table->value(row_, static_cast<std::size_t>(number) - 1);
 }
 
+bool RowScope::hides(const NameReference& constant) const {
+  return layer_.table->findColumn(constant.name()).has_value();
+}
+
 Value RowScope::call(const FunctionCall& function, std::span<const Value> arguments) const {
   return functions_.call(function, arguments);
 }

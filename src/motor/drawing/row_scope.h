@@ -15,6 +15,7 @@ class RowScope final : public Scope {
 
   [[nodiscard]] Value name(const NameReference& reference) const override;
   [[nodiscard]] Value column(const std::string& table, double number, Position position) const override;
+  [[nodiscard]] bool hides(const NameReference& constant) const override;
   [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const override;
 
  private:

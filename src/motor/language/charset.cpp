@@ -1,15 +1,14 @@
 #include "motor/language/charset.h"
 
+#include <algorithm>
 #include <array>
 
+#include "motor/language/code_pages.h"
 #include "text/utf8.h"
 
 namespace motor {
 
 namespace {
-
-// What the bytes 0x80-0xFF mean; 0 where a byte means nothing.
-using CodePage = std::array<char16_t, 128>;
 
 constexpr CodePage latin1() {
   CodePage page{};
@@ -61,12 +60,24 @@ struct CharsetName {
 
 constexpr std::array kNames = {
     CharsetName{"Neutral", Charset::neutral},
+    CharsetName{"NeutralCharset", Charset::neutral},
     CharsetName{"UTF-8", Charset::utf8},
     CharsetName{"ISO8859-1", Charset::iso8859_1},
     CharsetName{"WindowsLatin1", Charset::windowsLatin1},
     CharsetName{"WindowsLatin2", Charset::windowsLatin2},
     CharsetName{"WindowsCyrillic", Charset::windowsCyrillic},
+    CharsetName{"CodePage437", Charset::codePage437},
+    CharsetName{"CodePage850", Charset::codePage850},
+    CharsetName{"CodePage852", Charset::codePage852},
 };
+
+constexpr std::array<std::string_view, 31> kUnreadable = {
+    "ISO8859-2",        "ISO8859-3",          "ISO8859-4",          "ISO8859-5",       "ISO8859-6",     "ISO8859-7",
+    "ISO8859-8",        "ISO8859-9",          "PackedEUCJapanese",  "WindowsArabic",   "WindowsGreek",  "WindowsHebrew",
+    "WindowsTurkish",   "WindowsTradChinese", "WindowsSimpChinese", "WindowsJapanese", "WindowsKorean", "WindowsThai",
+    "WindowsBalticRim", "WindowsVietnamese",  "CodePage855",        "CodePage857",     "CodePage860",   "CodePage861",
+    "CodePage863",      "CodePage864",        "CodePage865",        "CodePage869",     "CodePage932",   "CodePage936",
+    "MacRoman"};
 
 std::string fromCodePage(std::string_view bytes, const CodePage& page) {
   std::u32string characters;
@@ -112,6 +123,11 @@ std::optional<Charset> charsetNamed(std::string_view name) {
   return std::nullopt;
 }
 
+bool isUnreadableCharset(std::string_view name) {
+  return std::any_of(kUnreadable.begin(), kUnreadable.end(),
+                     [name](std::string_view known) { return text::equalsIgnoringCase(known, name); });
+}
+
 std::string toUtf8(std::string_view bytes, Charset charset) {
   switch (charset) {
     case Charset::iso8859_1:
@@ -122,6 +138,12 @@ std::string toUtf8(std::string_view bytes, Charset charset) {
       return fromCodePage(bytes, kWindowsLatin2);
     case Charset::windowsCyrillic:
       return fromCodePage(bytes, kWindowsCyrillic);
+    case Charset::codePage437:
+      return fromCodePage(bytes, kCodePage437);
+    case Charset::codePage850:
+      return fromCodePage(bytes, kCodePage850);
+    case Charset::codePage852:
+      return fromCodePage(bytes, kCodePage852);
     case Charset::neutral:
       return isUtf8(bytes) ? fromUtf8(bytes) : fromCodePage(bytes, kWindowsLatin1);
     default:

@@ -27,6 +27,9 @@ TEST(CharsetTest, decodes) {
       {Charset::neutral, "Año", "Año"},
       {Charset::neutral, "A\xF1o", "Año"},
       {Charset::neutral, "", ""},
+      {Charset::codePage437, "A\xA4o \x80\xE1\xFF", "Año Çß\u00A0"},
+      {Charset::codePage850, "A\xA4o \xB5\xE9\xD5", "Año ÁÚı"},
+      {Charset::codePage852, "\x88\xE6\xFD", "łŠř"},
   };
   for (const Case& c : cases) EXPECT_EQ(toUtf8(c.bytes, c.charset), c.text) << c.text;
 }
@@ -38,7 +41,14 @@ TEST(CharsetTest, isFoundByName) {
   EXPECT_EQ(charsetNamed("ISO8859-1"), Charset::iso8859_1);
   EXPECT_EQ(charsetNamed("utf-8"), Charset::utf8);
   EXPECT_EQ(charsetNamed("Neutral"), Charset::neutral);
+  EXPECT_EQ(charsetNamed("NeutralCharset"), Charset::neutral);
+  EXPECT_EQ(charsetNamed("codepage437"), Charset::codePage437);
+  EXPECT_EQ(charsetNamed("CodePage850"), Charset::codePage850);
+  EXPECT_EQ(charsetNamed("CodePage852"), Charset::codePage852);
   EXPECT_EQ(charsetNamed("Klingon"), std::nullopt);
+  EXPECT_EQ(charsetNamed("WindowsGreek"), std::nullopt);
+  EXPECT_TRUE(isUnreadableCharset("windowsgreek"));
+  EXPECT_FALSE(isUnreadableCharset("Klingon"));
 }
 
 }  // namespace

@@ -72,6 +72,11 @@ bool equalTexts(std::string_view a, std::string_view b) {
          (!isAscii(a) && !isAscii(b) && text::equalsIgnoringCase(text::compose(a), text::compose(b)));
 }
 
+std::string foldedForEquality(std::string_view s) {
+  s = withoutTrailingBlanks(s);
+  return text::lower(isAscii(s) ? std::string(s) : text::compose(s));
+}
+
 std::weak_ordering orderTexts(std::string_view a, std::string_view b) {
   if (equalTexts(a, b)) return std::weak_ordering::equivalent;
   return text::collate(withoutTrailingBlanks(a), withoutTrailingBlanks(b));

@@ -2,6 +2,7 @@
 
 #include <compare>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "motor/language/value.h"
@@ -21,6 +22,9 @@ namespace motor {
 
 // Whether two texts are the same but for case and trailing blanks.
 [[nodiscard]] bool equalTexts(std::string_view a, std::string_view b);
+
+// Two texts are the same in this way when these are.
+[[nodiscard]] std::string foldedForEquality(std::string_view text);
 
 // The order of texts under `<` and `>`: equal texts are equivalent.
 [[nodiscard]] std::weak_ordering orderTexts(std::string_view a, std::string_view b);

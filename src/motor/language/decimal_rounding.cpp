@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 namespace motor {
@@ -14,6 +15,9 @@ namespace {
 __extension__ typedef unsigned __int128 Wide;  // NOLINT(modernize-use-using): `using` has no __extension__ in clang
 
 constexpr int kWideDigits = 38;
+
+// From here on a double has no decimals: it is its own nearest multiple as far as it can tell.
+constexpr double kEveryWholeNumberBelow = 9007199254740992;
 
 // digits * 10^exponent
 struct Decimal {
@@ -64,8 +68,9 @@ double toDouble(Decimal decimal) {
   text += 'e';
   text += std::to_string(decimal.exponent);
   double value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (read.ec != std::errc::result_out_of_range) return value;
+  return decimal.exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
 }
 
 }  // namespace
@@ -77,7 +82,8 @@ std::optional<double> roundToMultiple(double value, double multiple) {
   Decimal step = decimalOf(std::abs(multiple));
   const int exponent = std::min(number.exponent, step.exponent);
   if (!lowerExponent(number, exponent) || !lowerExponent(step, exponent)) {
-    return std::round(value / multiple) * multiple;
+    const double quotient = value / multiple;
+    return std::abs(quotient) < kEveryWholeNumberBelow ? std::round(quotient) * multiple : value;
   }
   const Wide rest = number.digits % step.digits;
   const bool up = rest >= step.digits - rest;

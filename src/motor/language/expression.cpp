@@ -14,7 +14,9 @@ Value Scope::aggregate(const Aggregate& aggregate) const {
   throw LanguageError(aggregate.position(), "función de grupo", "sólo tiene sentido entre las columnas de Select");
 }
 
-const std::vector<Value>& Scope::values(const SelectStatement& select) const {
+bool Scope::hides(const NameReference& /*constant*/) const { return false; }
+
+const ValueSet& Scope::values(const SelectStatement& select) const {
   throw LanguageError(select.position, "Select", "sólo tiene sentido en el Where de otro Select");
 }
 

@@ -13,6 +13,7 @@ namespace motor {
 class Aggregate;
 class FunctionCall;
 class NameReference;
+class ValueSet;
 struct SelectStatement;
 
 enum class SpatialRelation {
@@ -45,7 +46,10 @@ class Scope {
                                      Position position) const;
   [[nodiscard]] virtual Value aggregate(const Aggregate& aggregate) const;
   // The values of the first column of a Select inside an expression.
-  [[nodiscard]] virtual const std::vector<Value>& values(const SelectStatement& select) const;
+  [[nodiscard]] virtual const ValueSet& values(const SelectStatement& select) const;
+
+  // Whether a name that is also a constant's (a colour) means something else here.
+  [[nodiscard]] virtual bool hides(const NameReference& constant) const;
 };
 
 // A node of an expression's tree.

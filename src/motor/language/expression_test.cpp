@@ -139,7 +139,7 @@ TEST(ExpressionTest, rejectsWithPositionAndWord) {
       {"otro", "línea 1, columna 1: «otro»: nombre desconocido"},
       {"1/0", "línea 1, columna 2: «/»: división por cero"},
       {"5 mod 0", "línea 1, columna 3: «mod»: división por cero"},
-      {"10^400", "línea 1, columna 3: «^»: el resultado no es un número"},
+      {"10^400", "línea 1, columna 3: «^»: el resultado no es un número finito"},
       {"n*nombre", "línea 1, columna 2: «*»: se esperaba un número"},
       {"n=nombre", "línea 1, columna 2: «=»: los valores no se pueden comparar"},
       {"n<nombre", "línea 1, columna 2: «<»: los valores no se pueden comparar"},
@@ -152,6 +152,57 @@ TEST(ExpressionTest, rejectsWithPositionAndWord) {
   for (const Case& c : cases) {
     EXPECT_EQ(rejected(c.source), c.message);
   }
+}
+
+TEST(ExpressionTest, limitsTexts) {
+  const std::string half = "string$(500000,\"x\")";
+  EXPECT_EQ(evaluated("len(" + half + "+" + half + ")"), "1000000");
+  EXPECT_EQ(evaluated("len(" + half + "&" + half + ")"), "1000000");
+  EXPECT_NE(rejected(half + "+" + half + "+\"x\"").find("«+»: el texto sería demasiado largo"), std::string::npos);
+  EXPECT_NE(rejected(half + "&" + half + "&1").find("«&»: el texto sería demasiado largo"), std::string::npos);
+  EXPECT_EQ(evaluated("len(\"" + std::string(1'000'000, 'x') + "\")"), "1000000");
+  EXPECT_NE(rejected("\"" + std::string(1'000'001, 'x') + "\"").find("el texto es demasiado largo"), std::string::npos);
+}
+
+TEST(ExpressionTest, knowsColours) {
+  struct Case {
+    const char* source;
+    const char* number;
+  };
+  const Case cases[] = {{"BLACK", "0"},          {"White", "16777215"},  {"red", "16711680"},
+                        {"green", "65280"},      {"BLUE", "255"},        {"cyan", "65535"},
+                        {"magenta", "16711935"}, {"YELLOW", "16776960"}, {"-red", "-16711680"}};
+  for (const Case& c : cases) EXPECT_EQ(evaluated(c.source), c.number) << c.source;
+  EXPECT_NE(rejected("t.red").find("nombre desconocido"), std::string::npos);
+}
+
+TEST(ExpressionTest, comparesWithSetsAsOneByOne) {
+  struct Case {
+    const char* source;
+    const char* result;
+  };
+  const Case cases[] = {
+      {"5 in (1, 5)", "T"},
+      {"3 in (1, n, 6)", "T"},
+      {"5 not in (1, 2)", "T"},
+      {"\"ÁVILA \" in (\"León\", \"ávila\")", "T"},
+      {"\"Avila\" in (\"León\", \"ávila\")", "F"},
+      {"1 in (true)", "T"},
+      {"true in (0, 2)", "F"},
+      {"\"t\" in (true)", "T"},
+      {"5 > any (7, 3)", "T"},
+      {"5 > all (7, 3)", "F"},
+      {"5 <= all (7, 5)", "T"},
+      {"5 < any (5, 3)", "F"},
+      {"5 = all (5, 5)", "T"},
+      {"5 = all (5, 6)", "F"},
+      {"5 <> any (5, 5)", "F"},
+      {"5 <> any (5, 6)", "T"},
+      {"\"b\" >= any (\"c\", \"Á\")", "T"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(evaluated(c.source), c.result) << c.source;
+  EXPECT_NE(rejected("5 in (\"a\", \"b\")").find("«=»: los valores no se pueden comparar"), std::string::npos);
+  EXPECT_NE(rejected("5 < any (6, \"b\", n*nombre)").find("no"), std::string::npos);
 }
 
 TEST(ExpressionTest, limitsNesting) {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "motor/language/text_limit.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -63,7 +64,14 @@ Value FunctionTable::Function::call(const FunctionCall& function, std::span<cons
         function.position(), function.name(),
         "se esperaban " + argumentCount(minimum_, maximum_) + ", no " + std::to_string(arguments.size()));
   }
-  return run_(Arguments(function, arguments));
+  Value result = run_(Arguments(function, arguments));
+  if (result.number() != nullptr && !std::isfinite(*result.number())) {
+    throw LanguageError(function.position(), function.name(), "el resultado no es un número finito");
+  }
+  if (result.text() != nullptr && result.text()->size() > kLongestText) {
+    throw LanguageError(function.position(), function.name(), "el texto sería demasiado largo");
+  }
+  return result;
 }
 
 const FunctionTable::Function& FunctionTable::find(const FunctionCall& function) const {

@@ -71,7 +71,8 @@ class FunctionTable {
   // One function, found once for many calls.
   class Function {
    public:
-    // Throws LanguageError at the call for too few or too many arguments.
+    // Throws LanguageError at the call for too few or too many arguments, and for a result that no expression may
+    // have: a number that is not finite, a text that is too long.
     [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const;
 
    private:

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "motor/language/decimal_rounding.h"
 #include "motor/language/number_format.h"
 #include "motor/language/parser.h"
@@ -42,6 +44,15 @@ TEST(PureFunctionsTest, calculate) {
       {"round(1,0)", "error: argumento 2: no puede ser cero"},
       {"round(\"1\",1)", "error: argumento 1: se esperaba un número"},
       {"chr$(34)+chr$(216)", "\"Ø"},
+      {"chr$(9)+chr$(10)+chr$(13)", "\t\n\r"},
+      {"chr$(0)", "error: argumento 1: es un carácter de control"},
+      {"chr$(31)", "error: argumento 1: es un carácter de control"},
+      {"chr$(127)", "error: argumento 1: es un carácter de control"},
+      {"exp(1000)", "error: el resultado no es un número finito"},
+      {"round(1.7e308,1e308)", "error: el resultado no es un número finito"},
+      {"formatnumber$(1.5e16)", "15.000.000.000.000.000"},
+      {"format$(1,\"0.\"+string$(600,\"0\"))", "error: argumento 2: el formato es demasiado largo"},
+      {"len(format$(1e308,\"0.\"+string$(253,\"0\")))", "563"},
       {"chr$(256)", "error: argumento 1: tiene que estar entre 0 y 255"},
       {"asc(\"Ñ\")", "209"},
       {"asc(\"\")", "0"},
@@ -65,7 +76,11 @@ TEST(PureFunctionsTest, calculate) {
       {"rtrim$(\"  a \")+\"|\"", "  a|"},
       {"rtrim$(\"  \")+\"|\"", "|"},
       {"space$(3)+\"|\"", "   |"},
-      {"space$(100000)", "error: argumento 1: el texto sería demasiado largo"},
+      {"len(space$(1000000))", "1000000"},
+      {"space$(1000001)", "error: argumento 1: el texto sería demasiado largo"},
+      {"len(string$(500000,\"ñ\"))", "500000"},
+      {"string$(500001,\"ñ\")", "error: argumento 1: el texto sería demasiado largo"},
+      {"proper$(string$(1000000,\"ŉ\"))", "error: argumento 1: el texto sería demasiado largo"},
       {"string$(3,\"ñx\")", "ñññ"},
       {"proper$(\"san JUAN de ávila\")", "San Juan De Ávila"},
       {"stringcompare(\"a\",\"A\")", "1"},
@@ -102,6 +117,8 @@ TEST(DecimalRoundingTest, roundsTheNumberAsWritten) {
       {1e300, 0.01, 1e300},
       {12345.6789, -1, 12346},
       {1, 0.3, 0.9},
+      {1e300, 1e-200, 1e300},
+      {1e-300, 1, 0},
   };
   for (const Case& c : cases) EXPECT_EQ(roundToMultiple(c.value, c.multiple), c.result) << c.value << " " << c.multiple;
   EXPECT_EQ(roundToMultiple(1, 0), std::nullopt);
@@ -121,6 +138,8 @@ TEST(NumberFormatTest, groupsThousands) {
       {1234567.89, "1.234.567,89", "1,234,567.89"},
       {-1234.5, "-1.234,5", "-1,234.5"},
       {0.05, "0,05", "0.05"},
+      {1.5e16, "15.000.000.000.000.000", "15,000,000,000,000,000"},
+      {-1e-16, "-0,0000000000000001", "-0.0000000000000001"},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(formatNumber(c.value, {}), c.spanish);
@@ -154,8 +173,23 @@ TEST(NumberFormatTest, followsPatterns) {
       {-0.001, "0.0", "0.0"},
       {2.675, "0.00", "2.68"},
       {99.99, "0.0E+0", "1.0E+2"},
+      {5e-324, "0E-0", "5E-324"},
+      {0, "0.0E+0", "0.0E+0"},
   };
   for (const Case& c : cases) EXPECT_EQ(formatByPattern(c.value, c.pattern), c.result) << c.value << " " << c.pattern;
+}
+
+TEST(NumberFormatTest, rejectsWhatItCannotWrite) {
+  EXPECT_EQ(formatByPattern(1, "." + std::string(254, '0')), "1." + std::string(254, '0'));
+  EXPECT_THROW(static_cast<void>(formatByPattern(1, "." + std::string(255, '0'))), EngineError);
+  EXPECT_THROW(static_cast<void>(formatByPattern(1e308, "0%")), EngineError);
+}
+
+TEST(FunctionTableTest, rejectsNumbersThatAreNotFinite) {
+  FunctionTable table;
+  table.add("weird", 0, 0, [](const Arguments&) { return Value(std::nan("")); });
+  const auto call = std::dynamic_pointer_cast<const FunctionCall>(parseExpression("weird()"));
+  EXPECT_THROW(static_cast<void>(table.call(*call, {})), LanguageError);
 }
 
 TEST(FunctionTableTest, offersFunctionsOfAState) {

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "motor/language/text_limit.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -55,8 +56,11 @@ class Lexer {
            ((code >= 0xC0 && code != 0xD7 && code != 0xF7) || code == 0xAA || code == 0xB5 || code == 0xBA);
   }
 
+  // A line ends with CR, LF or both.
+  [[nodiscard]] bool isLineEnd() const { return at(next_) == '\n' || at(next_) == '\r'; }
+
   void advance() {
-    if (at(next_) == '\n') {
+    if (at(next_) == '\n' || (at(next_) == '\r' && at(next_ + 1) != '\n')) {
       ++position_.line;
       position_.column = 1;
     } else {
@@ -72,7 +76,7 @@ class Lexer {
     while (!atEnd()) {
       const char c = at(next_);
       if (c == '\'') {
-        while (!atEnd() && at(next_) != '\n') advance();
+        while (!atEnd() && !isLineEnd()) advance();
       } else if (c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\v') {
         advance();
       } else {
@@ -103,7 +107,7 @@ class Lexer {
     token.kind = Token::Kind::text;
     advance();
     for (;;) {
-      if (atEnd() || at(next_) == '\n') {
+      if (atEnd() || isLineEnd()) {
         throw LanguageError(token.position, std::string(source_.substr(token.begin, next_ - token.begin)),
                             "falta la comilla de cierre");
       }
@@ -111,6 +115,7 @@ class Lexer {
         advance();
         if (at(next_) != '"') return;
       }
+      if (token.text.size() >= kLongestText) throw LanguageError(token.position, "\"", "el texto es demasiado largo");
       const std::size_t begin = next_;
       advance();
       token.text += source_.substr(begin, next_ - begin);

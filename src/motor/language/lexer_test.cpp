@@ -66,6 +66,14 @@ TEST(LexerTest, countsLinesAndCharacters) {
   EXPECT_EQ(tokens[4].position, (Position{4, 4}));
 }
 
+TEST(LexerTest, endsLinesAtEitherSign) {
+  const auto tokens = tokenize("a ' nothing\rb\r\nc\n\rd");
+  ASSERT_EQ(tokens.size(), 5U);
+  EXPECT_EQ(tokens[1].position, (Position{2, 1}));
+  EXPECT_EQ(tokens[2].position, (Position{3, 1}));
+  EXPECT_EQ(tokens[3].position, (Position{5, 1}));
+}
+
 TEST(LexerTest, rejectsWhatIsNoToken) {
   struct Case {
     const char* source;
@@ -74,6 +82,7 @@ TEST(LexerTest, rejectsWhatIsNoToken) {
   const Case cases[] = {
       {"a \"b", "línea 1, columna 3: «\"b»: falta la comilla de cierre"},
       {"\"b\nc\"", "línea 1, columna 1: «\"b»: falta la comilla de cierre"},
+      {"\"b\rc\"", "línea 1, columna 1: «\"b»: falta la comilla de cierre"},
       {"x\n  ¿", "línea 2, columna 3: «¿»: carácter que no pertenece al lenguaje"},
       {"!", "línea 1, columna 1: «!»: carácter que no pertenece al lenguaje"},
       {"1e999", "línea 1, columna 1: «1e999»: el número es demasiado grande"},

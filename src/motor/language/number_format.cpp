@@ -118,7 +118,7 @@ std::vector<std::string_view> sections(std::string_view pattern) {
 
 // The digits with exactly so many decimals, without a sign.
 std::string fixedDigits(double magnitude, int decimals) {
-  std::array<char, 512> buffer{};
+  std::array<char, 400 + kLongestPattern> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), roundToDecimals(magnitude, decimals),
                                  std::chars_format::fixed, decimals);
   return {buffer.data(), end.ptr};
@@ -138,8 +138,12 @@ std::string digitsOf(double magnitude, const Section& section) {
 }
 
 std::string scientific(double magnitude, const Section& section) {
-  int exponent = magnitude == 0 ? 0 : static_cast<int>(std::floor(std::log10(magnitude)));
-  double mantissa = magnitude / std::pow(10, exponent);
+  std::array<char, 32> buffer{};
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::scientific);
+  double mantissa = 0;
+  const char* e = std::from_chars(buffer.data(), end.ptr, mantissa, std::chars_format::fixed).ptr;
+  int exponent = std::stoi(std::string(e + 1, static_cast<const char*>(end.ptr)));
   if (roundToDecimals(mantissa, section.decimals) >= 10) {
     mantissa /= 10;
     ++exponent;
@@ -153,10 +157,9 @@ std::string scientific(double magnitude, const Section& section) {
 }  // namespace
 
 std::string formatNumber(double value, const NumberSigns& signs) {
-  std::string digits = text::number(value);
+  std::string digits = text::plainNumber(value);
   const bool negative = digits.front() == '-';
   if (negative) digits.erase(0, 1);
-  if (digits.find_first_not_of("0123456789.") != std::string::npos) return (negative ? "-" : "") + digits;
   const std::size_t point = std::min(digits.find('.'), digits.size());
   std::string result = negative ? "-" : "";
   result += withThousands(digits.substr(0, point), signs.thousands);
@@ -165,11 +168,13 @@ std::string formatNumber(double value, const NumberSigns& signs) {
 }
 
 std::string formatByPattern(double value, std::string_view pattern) {
+  if (pattern.size() > kLongestPattern) throw EngineError("el formato es demasiado largo");
   const std::vector<std::string_view> parts = sections(pattern);
   const bool ownNegative = value < 0 && parts.size() > 1;
   const Section section = SectionReader(parts[ownNegative ? 1 : 0]).read();
   if (!section.hasNumber) return section.before;
   const double magnitude = std::abs(value) * std::pow(100, std::min(section.percents, 8));
+  if (!std::isfinite(magnitude)) throw EngineError("el resultado no es un número finito");
   const std::string digits =
       section.exponentDigits >= 0 ? scientific(magnitude, section) : digitsOf(magnitude, section);
   const bool isZero = digits.find_first_of("123456789") == std::string::npos;

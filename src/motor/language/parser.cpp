@@ -18,18 +18,19 @@ bool areNext(const TokenStream& stream, std::size_t ahead, std::initializer_list
   return true;
 }
 
-const StatementRule* findStatement(const TokenStream& stream, std::size_t ahead = 0) {
-  for (const StatementRule& rule : statementRules()) {
-    if (areNext(stream, ahead, {rule.first, rule.second, rule.third})) return &rule;
-  }
-  return nullptr;
+template <typename Rule>
+bool begins(const TokenStream& stream, const Rule& rule) {
+  return areNext(stream, 0, {rule.first, rule.second});
+}
+bool begins(const TokenStream& stream, const StatementRule& rule) {
+  return areNext(stream, 0, {rule.first, rule.second, rule.third});
 }
 
-const SkippedRule* findSkipped(std::span<const SkippedRule> rules, const TokenStream& stream, std::size_t ahead = 0) {
-  for (const SkippedRule& rule : rules) {
-    if (areNext(stream, ahead, {rule.first, rule.second})) return &rule;
-  }
-  return nullptr;
+// The first rule whose words come next, or null.
+template <typename Rule>
+const Rule* findRule(std::span<const Rule> rules, const TokenStream& stream) {
+  const auto found = std::find_if(rules.begin(), rules.end(), [&](const Rule& rule) { return begins(stream, rule); });
+  return found == rules.end() ? nullptr : &*found;
 }
 
 bool isAssignment(const TokenStream& stream) {
@@ -37,39 +38,44 @@ bool isAssignment(const TokenStream& stream) {
 }
 
 bool isStatement(const TokenStream& stream) {
-  return findStatement(stream) != nullptr || findSkipped(passedOverRules(), stream) != nullptr ||
-         findSkipped(refusedRules(), stream) != nullptr;
+  return findRule(statementRules(), stream) != nullptr || findRule(passedOverRules(), stream) != nullptr ||
+         findRule(refusedRules(), stream) != nullptr;
 }
 
-std::size_t wordCount(const SkippedRule& rule) { return rule.second == nullptr ? 1 : 2; }
-std::size_t wordCount(const StatementRule& rule) { return rule.second == nullptr ? 1 : rule.third == nullptr ? 2 : 3; }
-
-// Reads a statement's words and everything up to the beginning of the next statement; gives the words as written.
-std::string skip(TokenStream& stream, const SkippedRule& rule, bool mayHoldAssignments) {
+std::string readWords(TokenStream& stream, const char* second) {
   const std::size_t first = stream.index();
-  for (std::size_t i = 0; i < wordCount(rule); ++i) stream.next();
-  std::string name = stream.written(first);
+  stream.next();
+  if (second != nullptr) stream.next();
+  return stream.written(first);
+}
+
+// Reads up to the beginning of the next statement: whatever a statement that is refused says, it stays refused.
+void skip(TokenStream& stream) {
   int depth = 0;
   while (!stream.atEnd()) {
-    if (depth == 0 && (isStatement(stream) || (!mayHoldAssignments && isAssignment(stream)))) break;
+    if (depth == 0 && isStatement(stream)) break;
     if (stream.isSign("(")) ++depth;
     if (stream.isSign(")")) --depth;
     stream.next();
   }
-  return name;
 }
 
 Statement parseStatement(TokenStream& stream) {
   const Position position = stream.position();
-  if (const StatementRule* rule = findStatement(stream)) {
-    for (std::size_t i = 0; i < wordCount(*rule); ++i) stream.next();
+  if (const StatementRule* rule = findRule(statementRules(), stream)) {
+    readWords(stream, rule->second);
+    if (rule->third != nullptr) stream.next();
     return rule->parse(stream, position);
   }
-  if (const SkippedRule* rule = findSkipped(passedOverRules(), stream)) {
-    return PassedOver{position, skip(stream, *rule, false)};
+  if (const PassedOverRule* rule = findRule(passedOverRules(), stream)) {
+    std::string name = readWords(stream, rule->second);
+    rule->read(stream);
+    return PassedOver{position, std::move(name)};
   }
-  if (const SkippedRule* rule = findSkipped(refusedRules(), stream)) {
-    return Refused{position, skip(stream, *rule, true)};
+  if (const RefusedRule* rule = findRule(refusedRules(), stream)) {
+    std::string name = readWords(stream, rule->second);
+    skip(stream);
+    return Refused{position, std::move(name)};
   }
   if (isAssignment(stream)) return parseAssignment(stream, position);
   stream.failExpecting("el principio de una instrucción");

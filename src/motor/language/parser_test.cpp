@@ -17,6 +17,24 @@ TEST(InertStatementsTest, passOverAndRefuse) {
       {"Set Layout Ruler On Pagebreaks On Zoom 45.2381/x Center (8.5*x,5.5*y) Extents To Fit", "Set Layout"},
       {"Create Frame (1,2) (3,4) Pen (1,2,0) Title \"Main Map\" FillFrame On", "Create Frame"},
       {"Graph a, b From t", "Graph"},
+      {"Graph a, b From t Position (1,2) Using \"x\" Restore Series In Columns", "Graph"},
+      {"Browse link, update \"al día\", print From t Min", "Browse"},
+      {"Browse * From link Row 5 Column 2 Grid Off Max", "Browse"},
+      {"Create Frame Into Window 5 (1,2) (3,4) Title t From Window FrontWindow()", "Create Frame"},
+      {"Set Browse Window 5 Grid Off Row 3", "Set Browse"},
+      {"Set Graph Window 5 Type Bar Stacked Off Title \"x\" Font (\"Arial\",1,9,0)", "Set Graph"},
+      {"Set Layout Frame Contents Active Zoom To Fit Extents 2, 3", "Set Layout"},
+      {"Set PrinterSettings Name \"x\" Orientation Portrait Copies 2", "Set PrinterSettings"},
+      {"Set Style Pen MakePen(1,2,RED)", "Set Style"},
+      {"Set Style Brush (1,2,3)", "Set Style"},
+      {"Set Resolution 100", "Set Resolution"},
+      {"Set ProgressBars Off", "Set ProgressBars"},
+      {"Set Cartographic Legend Window 5 Portrait Columns 2 Frame Order 1, 2", "Set Cartographic"},
+      {"Set Digitizer (1,2) (3,4) Label \"a\", (5,6) (7,8) CoordSys Earth Units \"mm\" Button 1, 2 Mode On",
+       "Set Digitizer"},
+      {"Set Digitizer Off", "Set Digitizer"},
+      {"Reload Symbols Using Vector \"x\"", "Reload Symbols"},
+      {"Print \"hola\", 1+2; t.update", "Print"},
   };
   for (const Case& c : passedOver) EXPECT_EQ(parsed<PassedOver>(c.source).name, c.name);
   const Case refused[] = {
@@ -80,6 +98,30 @@ TEST(ParseProgramTest, saysWhatWasNotUnderstood) {
       {"Create Region 2.5", "línea 1, columna 15: «2.5»: se esperaba un número de puntos"},
       {"Create Region 1 9999999999 (1,2)", "línea 1, columna 17: «9999999999»: se esperaba un número de puntos"},
       {"Fetch first from t\nfooo", "línea 2, columna 1: «fooo»: se esperaba el principio de una instrucción"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(rejected(c.source), c.message) << c.source;
+}
+
+TEST(InertStatementsTest, passOverNothingUnknown) {
+  struct Case {
+    const char* source;
+    const char* message;
+  };
+  const Case cases[] = {
+      {"Browse * From t\nFooo bar baz\nMap From t",
+       "línea 2, columna 1: «Fooo»: se esperaba el principio de una instrucción"},
+      {"print \"hola\" fooo", "línea 1, columna 14: «fooo»: se esperaba el principio de una instrucción"},
+      {"Browse fooo bar From t", "línea 1, columna 13: «bar»: se esperaba From"},
+      {"Layout Fooo 5", "línea 1, columna 8: «Fooo»: se esperaba el principio de una instrucción"},
+      {"Layout Width 5 Units in", "línea 1, columna 22: «in»: se esperaba una unidad entre comillas"},
+      {"Set Layout Fooo On", "línea 1, columna 12: «Fooo»: se esperaba una cláusula de Set Layout"},
+      {"Set Layout Ruler Fooo", "línea 1, columna 18: «Fooo»: se esperaba el principio de una instrucción"},
+      {"Create Frame (1,2) Title \"x\"", "línea 1, columna 20: «Title»: se esperaba «(»"},
+      {"Graph a From t Fooo", "línea 1, columna 16: «Fooo»: se esperaba el principio de una instrucción"},
+      {"Set Style Fooo", "línea 1, columna 11: «Fooo»: se esperaba Pen, Brush, Symbol, Font, BorderPen o LinePen"},
+      {"Set ProgressBars", "línea 1, columna 17: fin del texto: se esperaba On u Off"},
+      {"Set Cartographic Fooo", "línea 1, columna 18: «Fooo»: se esperaba Legend"},
+      {"Reload Symbols Using Fooo", "línea 1, columna 22: «Fooo»: se esperaba Bitmap o Vector"},
   };
   for (const Case& c : cases) EXPECT_EQ(rejected(c.source), c.message) << c.source;
 }

@@ -8,6 +8,7 @@
 #include "motor/language/function_table.h"
 #include "motor/language/like_pattern.h"
 #include "motor/language/number_format.h"
+#include "motor/language/text_limit.h"
 #include "text/failure.h"
 #include "text/number_text.h"
 #include "text/utf8.h"
@@ -16,8 +17,6 @@
 namespace motor {
 
 namespace {
-
-constexpr int kLongestText = 32767;
 
 // --- numbers ---
 
@@ -71,6 +70,8 @@ std::size_t countAt(const Arguments& a, std::size_t i, int minimum) {
 Value character(const Arguments& a) {
   const int code = a.integer(0);
   if (code < 0 || code > 255) a.reject(0, "tiene que estar entre 0 y 255");
+  const bool isControl = code < 32 && code != '\t' && code != '\n' && code != '\r';
+  if (isControl || code == 127) a.reject(0, "es un carácter de control");
   const char byte = static_cast<char>(code);
   return toUtf8({&byte, 1}, Charset::windowsLatin1);
 }
@@ -133,8 +134,10 @@ Value blanks(const Arguments& a) { return std::string(repetitions(a), ' '); }
 
 Value repeated(const Arguments& a) {
   const std::string one = text::left(a.text(1), 1);
+  const std::size_t count = repetitions(a);
+  if (count * one.size() > kLongestText) a.reject(0, "el texto sería demasiado largo");
   std::string result;
-  for (std::size_t i = repetitions(a); i > 0; --i) result += one;
+  for (std::size_t i = 0; i < count; ++i) result += one;
   return result;
 }
 
@@ -156,7 +159,11 @@ Value compareExactly(const Arguments& a) {
 
 Value like(const Arguments& a) { return likeExactly(a.text(0), a.text(1), a.count() > 2 ? a.text(2) : ""); }
 
-Value formatted(const Arguments& a) { return formatByPattern(a.number(0), a.text(1)); }
+Value formatted(const Arguments& a) {
+  const std::string pattern = a.text(1);
+  if (pattern.size() > kLongestPattern) a.reject(1, "el formato es demasiado largo");
+  return formatByPattern(a.number(0), pattern);
+}
 
 // A number, or a text that spells one.
 double numberOrSpelled(const Arguments& a) {

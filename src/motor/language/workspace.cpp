@@ -1,5 +1,6 @@
 #include "motor/language/workspace.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "motor/language/charset.h"
@@ -40,9 +41,9 @@ class Header {
   [[nodiscard]] std::string argument() const { return text::trim(lineText().substr(word().size())); }
 
   void nextLine() {
-    const std::size_t end = rest_.find('\n');
-    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
-    if (end != std::string_view::npos) ++line_;
+    const std::size_t end = lineText().size();
+    if (end < rest_.size()) ++line_;
+    rest_.remove_prefix(std::min(rest_.size(), end + (rest_.substr(end, 2) == "\r\n" ? 2 : 1)));
   }
 
   void skipBlankLines() {
@@ -72,8 +73,13 @@ Workspace parseWorkspace(std::string_view bytes) {
   Workspace workspace;
   Header header(bytes);
   header.read(workspace);
-  const auto charset = charsetNamed(workspace.charset.empty() ? "Neutral" : workspace.charset);
-  if (!charset) throw LanguageError({header.charsetLine(), 1}, workspace.charset, "juego de caracteres desconocido");
+  const std::string name = workspace.charset.empty() ? "Neutral" : workspace.charset;
+  const auto charset = charsetNamed(name);
+  if (!charset) {
+    throw LanguageError(
+        {header.charsetLine(), 1}, name,
+        isUnreadableCharset(name) ? "este juego de caracteres no se puede leer" : "juego de caracteres desconocido");
+  }
   workspace.statements = parseProgram(toUtf8(header.rest(), *charset), {header.line(), 1});
   return workspace;
 }

@@ -42,6 +42,9 @@ TEST(WorkspaceTest, decodesByCharset) {
       {"!WORKSPACE\n!version 400\n!CHARSET iso8859-1\n", "A\xF1o"},
       {"\xEF\xBB\xBF!Workspace\n", "Año"},
       {"\n!Workspace\n\n!Version 950\n\n", "Año"},
+      {"!Workspace\r!Version 600\r!Charset WindowsLatin1\r", "A\xF1o"},
+      {"!Workspace\n!Charset CodePage850\n", "A\xA4o"},
+      {"!Workspace\n!Charset NeutralCharset\n", "A\xF1o"},
   };
   for (const Case& c : cases) {
     const Workspace workspace = parseWorkspace(std::string(c.header) + "Close Table " + c.name);
@@ -61,6 +64,10 @@ TEST(WorkspaceTest, rejectsOtherFiles) {
             "línea 1, columna 1: «!table»: el archivo no es un entorno de trabajo: falta !Workspace");
   EXPECT_EQ(rejected("!Workspace\n!Fooo 1"), "línea 2, columna 1: «!Fooo»: se esperaba !Version o !Charset");
   EXPECT_EQ(rejected("!Workspace\n!Charset Fooo"), "línea 2, columna 1: «Fooo»: juego de caracteres desconocido");
+  EXPECT_EQ(rejected("!Workspace\n!Charset WindowsJapanese"),
+            "línea 2, columna 1: «WindowsJapanese»: este juego de caracteres no se puede leer");
+  EXPECT_EQ(rejected("!Workspace\r!Version 600\rClose All\rfooo"),
+            "línea 4, columna 1: «fooo»: se esperaba el principio de una instrucción");
   EXPECT_EQ(rejected("!Workspace\n!Version 600\n\nClose All\n  fooo"),
             "línea 5, columna 3: «fooo»: se esperaba el principio de una instrucción");
 }

@@ -40,10 +40,16 @@ struct Hit {
   RowId row = 0;
 };
 
+// Whether a search looks at a layer: it has a table, is selectable and is drawn at the map's zoom.
+[[nodiscard]] bool isSearched(const Layer& layer, const Map& map);
+
+// The rows of a layer whose objects lie under a point of the map's coordinates, ascending. Rows that share one object
+// count once, as the first of them. Lines and points are hit within `tolerancePixels`.
+[[nodiscard]] std::vector<RowId> rowsAt(const Map& map, const Layer& layer, Point p, double tolerancePixels = 3);
+
 // Everything of displayed, selectable layers inside their zoom range under a point of the map's coordinates: topmost
-// layer first, by row inside a layer. Rows that share one object count once, as the first of them; a theme
-// (Display::value) and the layer of the same table count once, as the upper of them. Lines and points are hit within
-// `tolerancePixels`.
+// layer first, by row inside a layer, without the cosmetic layer; a theme (Display::value) and the layer of the same
+// table count once, as the upper of them.
 [[nodiscard]] std::vector<Hit> objectsAt(const Map& map, Point p, double tolerancePixels = 3);
 
 }  // namespace motor

@@ -42,21 +42,31 @@ bool isHit(const MapObject& object, Point p, double tolerance) {
 
 }  // namespace
 
-std::vector<Hit> objectsAt(const Map& map, Point p, double tolerancePixels) {
-  std::vector<Hit> hits;
+bool isSearched(const Layer& layer, const Map& map) {
+  return layer.table && layer.selectable && layer.isDrawnAt(map.zoomMetres);
+}
+
+std::vector<RowId> rowsAt(const Map& map, const Layer& layer, Point p, double tolerancePixels) {
   const double tolerance = tolerancePixels * map.unitsPerPixel();
   const Box around{p.x - tolerance, p.y - tolerance, p.x + tolerance, p.y + tolerance};
+  const std::shared_ptr<const ObjectSet> set = projectedObjects(layer.table, map.coordinateSystem);
+  std::vector<RowId> rows;
+  for (const std::uint32_t index : set->objectsIn(around)) {
+    if (isHit(*set->objects()[index], p, tolerance)) rows.push_back(set->rowsOf(index).front());
+  }
+  return rows;
+}
+
+std::vector<Hit> objectsAt(const Map& map, Point p, double tolerancePixels) {
+  std::vector<Hit> hits;
   std::map<const Table*, Display> searched;
   for (std::size_t i = 0; i < map.layers.size(); ++i) {
     const Layer& layer = map.layers[i];
-    if (!layer.table || !layer.selectable || !layer.isDrawnAt(map.zoomMetres)) continue;
+    if (!isSearched(layer, map)) continue;
     // A theme and the layer that it shades are the same objects.
     const auto [earlier, isFirst] = searched.try_emplace(layer.table.get(), layer.display);
     if (!isFirst && (earlier->second == Display::value || layer.display == Display::value)) continue;
-    const std::shared_ptr<const ObjectSet> set = projectedObjects(layer.table, map.coordinateSystem);
-    for (const std::uint32_t index : set->objectsIn(around)) {
-      if (isHit(*set->objects()[index], p, tolerance)) hits.push_back({i, set->rowsOf(index).front()});
-    }
+    for (const RowId row : rowsAt(map, layer, p, tolerancePixels)) hits.push_back({i, row});
   }
   return hits;
 }

@@ -1,8 +1,9 @@
 #include "motor/map/projected_objects.h"
 
-#include <algorithm>
 #include <cmath>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include "motor/tables/base_table.h"
 
@@ -57,10 +58,9 @@ std::shared_ptr<const ObjectSet> project(const Table& table, const CoordinateSys
   return std::make_shared<const ObjectSet>(set.withObjects(std::move(objects)));
 }
 
-struct Entry {
-  std::weak_ptr<const Table> table;
-  CoordinateSystem system;
-  std::shared_ptr<const ObjectSet> objects;
+// A table's objects by the systems that they were transformed to.
+struct Projections {
+  std::vector<std::pair<CoordinateSystem, std::shared_ptr<const ObjectSet>>> bySystem;
 };
 
 }  // namespace
@@ -72,14 +72,15 @@ std::shared_ptr<const ObjectSet> projectedObjects(const TablePtr& table, const C
     if (base) return {base, &base->objectSet()};
   }
   static std::mutex mutex;
-  static std::vector<Entry> entries;
   const std::scoped_lock lock(mutex);
-  for (const Entry& entry : entries) {
-    if (entry.table.lock() == table && entry.system == system) return entry.objects;
+  std::shared_ptr<void>& companion = table->companion();
+  if (!companion) companion = std::make_shared<Projections>();
+  auto& projections = static_cast<Projections*>(companion.get())->bySystem;
+  for (const auto& [known, objects] : projections) {
+    if (known == system) return objects;
   }
-  std::erase_if(entries, [](const Entry& entry) { return entry.table.expired(); });
-  entries.push_back({table, system, project(*table, system)});
-  return entries.back().objects;
+  projections.emplace_back(system, project(*table, system));
+  return projections.back().second;
 }
 
 }  // namespace motor

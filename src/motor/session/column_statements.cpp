@@ -102,10 +102,11 @@ void execute(SessionState& session, const AddColumn& statement) {
   }
   const Column column{.name = statement.column.text, .type = typeNamed(statement.type)};
   auto extended = std::make_shared<const ExtendedTable>(entry.table, column, std::move(values));
-  session.tables.replace(entry.name, extended);
+  const std::map<TablePtr, TablePtr> replaced = session.tables.replace(entry.name, extended);
   for (const auto& window : session.windows()) {
     for (Layer& layer : window->map().layers) {
-      if (layer.table == entry.table) layer.table = extended;
+      const auto found = replaced.find(layer.table);
+      if (found != replaced.end()) layer.table = found->second;
     }
   }
 }

@@ -2,9 +2,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "motor/session/cosmetic_table.h"
 #include "motor/session/executors.h"
 #include "motor/session/session_state.h"
-#include "motor/tables/base_table.h"
 
 namespace motor {
 namespace {
@@ -126,25 +126,15 @@ ObjectPtr objectOf(const CreateObject& statement, const SessionState& session, c
 
 }  // namespace
 
-// The cosmetic layer's table never changes in place: a new one takes the new object in.
 void execute(SessionState& session, const CreateObject& statement) {
+  const bool goesElsewhere =
+      statement.window ? session.isPassedOver(session.integer(statement.window)) : session.drawsOnLayout;
+  if (goesElsewhere) return;
   MapWindow& window = session.windowOrFront(statement.window);
-  Layer& cosmetic = window.map().cosmetic;
-  std::vector<ObjectPtr> objects;
-  if (cosmetic.table) {
-    for (RowId row = 1; row <= cosmetic.table->rowCount(); ++row) objects.push_back(cosmetic.table->object(row));
-  }
-  const CoordinateSystem target = cosmetic.table ? cosmetic.table->coordinateSystem() : window.map().coordinateSystem;
-  objects.push_back(objectOf(statement, session, target));
-
-  TableContents contents;
-  std::vector<std::uint32_t> indexByRow;
-  for (std::uint32_t i = 0; i < objects.size(); ++i) indexByRow.push_back(i);
-  contents.deleted.assign(objects.size(), false);
-  contents.objects = ObjectSet(std::move(objects), std::move(indexByRow));
-  contents.hasObjects = true;
-  contents.coordinateSystem = target;
-  cosmetic.table = std::make_shared<const BaseTable>(std::move(contents));
+  TablePtr& table = window.map().cosmetic.table;
+  const auto drawn = table ? std::dynamic_pointer_cast<const CosmeticTable>(table)
+                           : std::make_shared<const CosmeticTable>(window.map().coordinateSystem);
+  table = drawn->with(objectOf(statement, session, drawn->coordinateSystem()));
   window.changed();
 }
 

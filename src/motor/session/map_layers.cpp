@@ -112,9 +112,13 @@ void orderLayers(Map& map, const std::vector<int>& numbers) {
   for (std::size_t i = 0; i < map.layers.size(); ++i) {
     if (!isThere(i)) order.push_back(i);
   }
+  // A base and its themes come where the first of them is named, the themes in the order they are named.
   std::vector<Layer> layers;
-  for (const std::size_t base : order) {
-    if (map.layers[base].theme) continue;
+  std::vector<bool> done(map.layers.size(), false);
+  for (const std::size_t named : order) {
+    const std::size_t base = baseIndexOf(map, named);
+    if (done[base]) continue;
+    done[base] = true;
     for (const std::size_t theme : order) {
       if (map.layers[theme].theme && baseIndexOf(map, theme) == base) layers.push_back(map.layers[theme]);
     }

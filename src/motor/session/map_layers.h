@@ -32,8 +32,9 @@ std::size_t insertTheme(Map& map, std::size_t base, std::shared_ptr<const Shade>
 // Removes layers (by index); themes go with their bases.
 void removeLayers(Map& map, std::vector<std::size_t> indexes);
 
-// New order from the top by old numbers (from 1); layers that are not named follow in their old order, and themes stay
-// above their bases. Throws EngineError for a number of no layer and for one that comes twice.
+// New order from the top by old numbers (from 1); layers that are not named follow in their old order. Themes stay
+// above their bases: naming one brings its base along. Throws EngineError for a number of no layer and for one that
+// comes twice.
 void orderLayers(Map& map, const std::vector<int>& numbers);
 
 }  // namespace motor

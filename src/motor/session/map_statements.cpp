@@ -14,11 +14,36 @@ namespace {
 
 constexpr double kStartingZoom = 1e6;  // metres, of a map without objects
 
-// The layer of a table named in a statement; Selection stands for the name its rows keep.
-Layer newLayer(SessionState& session, const Name& table) {
-  Layer layer = layerFor(session.tables.at(table.text));
-  if (text::equalsIgnoringCase(table.text, "Selection")) layer.name = session.tables.nameOfSelection();
-  return layer;
+bool isSelection(const std::string& table) { return text::equalsIgnoringCase(table, "Selection"); }
+
+// The layers of the tables named in a statement; that of Selection has no name yet.
+std::vector<Layer> newLayers(const SessionState& session, const std::vector<Name>& tables) {
+  std::vector<Layer> layers;
+  for (const Name& table : tables) {
+    const TableEntry& entry = session.tables.at(table.text);
+    layers.push_back(layerFor(entry));
+    if (isSelection(table.text)) layers.back().name.clear();
+  }
+  return layers;
+}
+
+// Selection's layer gets the name that its rows keep, which opens a table of that name: when all else is right.
+void nameSelection(SessionState& session, std::vector<Layer>& layers) {
+  for (Layer& layer : layers) {
+    if (layer.name.empty()) layer.name = session.tables.nameOfSelection();
+  }
+}
+
+// The layers of an order from the top. Throws LanguageError for what is no whole number.
+std::vector<int> layerNumbers(const std::vector<ExpressionPtr>& order, const SessionState& session) {
+  std::vector<int> numbers;
+  for (const ExpressionPtr& expression : order) {
+    const double number = session.number(expression);
+    if (number != std::floor(number))
+      throw LanguageError(expression->position(), Value(number).toText(), "se esperaba un número entero");
+    numbers.push_back(session.integer(expression));
+  }
+  return numbers;
 }
 
 void setZoom(Map& map, const ZoomClause& clause, const std::string& unit, const SessionState& session) {
@@ -72,11 +97,13 @@ void setProperties(MapWindowProperties& properties, const SetMap& statement) {
 
 void execute(SessionState& session, const MapFrom& statement) {
   Map map;
-  for (const Name& table : statement.tables) map.layers.push_back(newLayer(session, table));
+  map.layers = newLayers(session, statement.tables);
+  const EvaluatedShape shape = evaluate(statement.shape, session);
+  nameSelection(session, map.layers);
   map.coordinateSystem = map.layers.front().table->coordinateSystem();
   map.zoomMetres = kStartingZoom;
   MapWindow& window = session.openWindow(std::move(map));
-  setShape(session, window, statement.shape);
+  setShape(session, window, shape);
   showEntire(window.map());
   window.changed();
 }
@@ -89,11 +116,7 @@ void execute(SessionState& session, const SetMap& statement) {
   const CoordinateSystem clauseSystem =
       statement.coordSys ? coordinateSystemOf(*statement.coordSys, session) : session.coordinateSystem;
   if (statement.coordSys) setCoordinateSystem(map, clauseSystem);
-  if (!statement.order.empty()) {
-    std::vector<int> numbers;
-    for (const ExpressionPtr& number : statement.order) numbers.push_back(session.integer(number));
-    orderLayers(map, numbers);
-  }
+  if (!statement.order.empty()) orderLayers(map, layerNumbers(statement.order, session));
   if (statement.center) setCentre(map, *statement.center, clauseSystem, session);
   if (statement.zoom) setZoom(map, *statement.zoom, properties.distanceUnit, session);
   for (const LayerChange& layer : statement.layers)
@@ -105,10 +128,11 @@ void execute(SessionState& session, const SetMap& statement) {
 
 void execute(SessionState& session, const AddMapLayer& statement) {
   MapWindow& window = session.windowOrFront(statement.window);
+  std::vector<Layer> layers = newLayers(session, statement.tables);
+  nameSelection(session, layers);
   Map map = window.map();
   std::size_t onTop = 0;
-  for (const Name& table : statement.tables) {
-    Layer layer = newLayer(session, table);
+  for (Layer& layer : layers) {
     if (statement.automatic) {
       insertByKind(map, std::move(layer));
     } else {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 
 #include "motor/session/menu_commands.h"
 #include "motor/session/session_state.h"
@@ -44,6 +45,16 @@ constexpr int kZoomOutTool = 1706;
 constexpr int kLabelTool = 1708;
 constexpr int kPointDrawMode = 34;
 
+// Does what the user asks for as far as it goes. The program's end is no std::exception and passes.
+template <typename Action>
+void quietly(Action action) {
+  try {
+    action();
+  } catch (const std::exception&) {
+    return;  // the user sees that nothing has happened
+  }
+}
+
 }  // namespace
 
 MapWindow::MapWindow(SessionState& session, std::int32_t id) : session_(session), id_(id) {}
@@ -75,17 +86,19 @@ void MapWindow::resized(int pixelWidth, int pixelHeight) {
 }
 
 void MapWindow::clicked(Point pixel, bool shift, bool control) {
-  const Tool current = tool();
+  quietly([&] { use(tool(), pixel, shift, control); });
+}
+
+void MapWindow::use(const Tool& current, Point pixel, bool shift, bool control) {
   switch (current.command) {
     case 0:
-      clickedWithOwnButton(current, toSession(session_, map_, map_.toMap(pixel)), shift, control);
-      return;
+      return clickedWithOwnButton(current, toSession(session_, map_, map_.toMap(pixel)), shift, control);
     case kSelectTool:
       return selectAt(pixel);
     case kZoomInTool:
-      return zoomedBy(1 / kClickZoomFactor, pixel);
+      return zoomBy(1 / kClickZoomFactor, pixel);
     case kZoomOutTool:
-      return zoomedBy(kClickZoomFactor, pixel);
+      return zoomBy(kClickZoomFactor, pixel);
     case kLabelTool:
       return labelAt(pixel);
     default:
@@ -94,19 +107,23 @@ void MapWindow::clicked(Point pixel, bool shift, bool control) {
 }
 
 void MapWindow::clickedAt(Point inSession, bool shift, bool control) {
-  const Tool current = tool();
-  if (current.command == 0) {
-    clickedWithOwnButton(current, inSession, shift, control);
-  } else {
-    clicked(map_.toPixel(toMapCoordinates(session_, map_, inSession)), shift, control);
-  }
+  quietly([&] {
+    const Tool current = tool();
+    if (current.command == 0) {
+      clickedWithOwnButton(current, inSession, shift, control);
+    } else {
+      use(current, map_.toPixel(toMapCoordinates(session_, map_, inSession)), shift, control);
+    }
+  });
 }
 
 void MapWindow::clickedWithOwnButton(const Tool& tool, Point at, bool shift, bool control) {
+  const ToolButton* button = session_.toolbox.findButton(tool.buttonId);
+  if (button == nullptr) return session_.chooseTool({.command = kSelectTool});
   const bool drags = tool.drawMode != kPointDrawMode;
   session_.event = {at.x,          at.y,   shift, control, drags ? Value(at.x) : Value(), drags ? Value(at.y) : Value(),
                     tool.buttonId, Value()};
-  const std::string method = session_.toolbox.button(tool.buttonId).method;
+  const std::string method = button->method;
   const std::string text = message(session_.event);
   const std::shared_ptr<platform::CallbackObject> callback = session_.callback;
   if (callback && !method.empty()) callback->invoke(method, text);
@@ -114,7 +131,10 @@ void MapWindow::clickedWithOwnButton(const Tool& tool, Point at, bool shift, boo
 
 void MapWindow::menuChosen(std::size_t entry) {
   if (entry >= shortcutMenu().size()) return;
-  const MenuEntry chosen = shortcutMenu()[entry];
+  quietly([this, chosen = shortcutMenu()[entry]] { choose(chosen); });
+}
+
+void MapWindow::choose(const MenuEntry& chosen) {
   if (chosen.command != 0) {
     if (knowsMenuCommand(chosen.command)) runMenuCommand(session_, *this, chosen.command);
     return;
@@ -126,7 +146,13 @@ void MapWindow::menuChosen(std::size_t entry) {
   if (callback && !chosen.method.empty()) callback->invoke(chosen.method, text);
 }
 
+void MapWindow::legendClosed() { session_.legend.open = false; }
+
 void MapWindow::zoomedBy(double factor, Point aroundPixel) {
+  quietly([&] { zoomBy(factor, aroundPixel); });
+}
+
+void MapWindow::zoomBy(double factor, Point aroundPixel) {
   const Point fixed = map_.toMap(aroundPixel);
   map_.zoomMetres = std::clamp(map_.zoomMetres * factor, kSmallestZoom, kLargestZoom);
   putUnder(map_, fixed, aroundPixel);
@@ -134,8 +160,10 @@ void MapWindow::zoomedBy(double factor, Point aroundPixel) {
 }
 
 void MapWindow::pannedBy(double pixelX, double pixelY) {
-  putUnder(map_, map_.centre, {map_.pixelWidth / 2.0 + pixelX, map_.pixelHeight / 2.0 + pixelY});
-  changed();
+  quietly([&] {
+    putUnder(map_, map_.centre, {map_.pixelWidth / 2.0 + pixelX, map_.pixelHeight / 2.0 + pixelY});
+    changed();
+  });
 }
 
 void MapWindow::selectAt(Point pixel) {

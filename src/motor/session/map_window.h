@@ -60,8 +60,9 @@ class MapWindow {
   // Something that is painted has changed: tells the port.
   void changed();
 
-  // --- what the user does; pixels from the window's top left. A callback may close this window: nothing of it is to be
-  // used after `clicked` and `menuChosen` without asking the session again. ---
+  // --- what the user does; pixels from the window's top left. Nobody hears of what goes wrong: no exception but the
+  // end of the program leaves these. A callback may close this window: nothing of it is to be used after `clicked` and
+  // `menuChosen` without asking the session again. ---
 
   // The window now has this size. The zoom, a width on the ground, stays.
   void resized(int pixelWidth, int pixelHeight);
@@ -73,10 +74,14 @@ class MapWindow {
   void zoomedBy(double factor, Point aroundPixel);  // factor > 1 shows more; the point under the pixel stays there
   void pannedBy(double pixelX, double pixelY);      // the map moves along with the pointer
   void menuChosen(std::size_t entry);               // an index into shortcutMenu()
+  void legendClosed();                              // the legend's window, by its own close box
 
  private:
   friend class SessionState;
+  void use(const Tool& tool, Point pixel, bool shift, bool control);
   void clickedWithOwnButton(const Tool& tool, Point inSession, bool shift, bool control);
+  void choose(const MenuEntry& entry);
+  void zoomBy(double factor, Point aroundPixel);
   void selectAt(Point pixel);
   void labelAt(Point pixel);
 

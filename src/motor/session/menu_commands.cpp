@@ -9,10 +9,7 @@
 namespace motor {
 namespace {
 
-void chooseTool(SessionState& session, MapWindow* /*window*/, int code) {
-  session.toolbox.choose({.command = code});
-  session.allMapsChanged();
-}
+void chooseTool(SessionState& session, MapWindow* /*window*/, int code) { session.chooseTool({.command = code}); }
 
 void unselectAll(SessionState& session, MapWindow* /*window*/, int /*code*/) {
   session.tables.deselect();

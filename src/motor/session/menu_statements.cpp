@@ -45,15 +45,17 @@ void execute(SessionState& session, const CreateButtonPad& statement) {
 }
 
 void execute(SessionState& session, const AlterButtonPad& statement) {
-  std::vector<ToolButton>& pad = statement.title ? session.toolbox.pad(session.text(statement.title))
-                                                 : session.toolbox.pad(session.integer(statement.id));
+  const std::string title = statement.title ? session.text(statement.title) : std::string();
+  std::vector<ToolButton>& pad =
+      statement.title ? session.toolbox.pad(title) : session.toolbox.pad(session.integer(statement.id));
   const std::vector<ToolButton> added = buttonsOf(statement.added, session);
-  for (const ExpressionPtr& removed : statement.removed) {
-    const int id = session.integer(removed);
-    std::erase_if(pad, [id](const ToolButton& button) { return button.id == id; });
-  }
+  std::vector<int> removed;
+  for (const ExpressionPtr& id : statement.removed) removed.push_back(session.integer(id));
+  std::erase_if(pad, [&](const ToolButton& button) {
+    return std::find(removed.begin(), removed.end(), button.id) != removed.end();
+  });
   pad.insert(pad.end(), added.begin(), added.end());
-  if (statement.destroyed && statement.title) session.toolbox.destroyPad(session.text(statement.title));
+  if (statement.destroyed && statement.title) session.toolbox.destroyPad(title);
 }
 
 void execute(SessionState& session, const RunMenuCommand& statement) {
@@ -63,8 +65,7 @@ void execute(SessionState& session, const RunMenuCommand& statement) {
     return;
   }
   const ToolButton& button = session.toolbox.button(code);
-  session.toolbox.choose({.command = 0, .buttonId = button.id, .drawMode = button.drawMode, .cursor = button.cursor});
-  session.allMapsChanged();
+  session.chooseTool({.command = 0, .buttonId = button.id, .drawMode = button.drawMode, .cursor = button.cursor});
 }
 
 }  // namespace motor

@@ -4,8 +4,8 @@
 #include <cctype>
 
 #include "motor/language/error.h"
+#include "motor/session/extended_table.h"
 #include "motor/session/path_text.h"
-#include "motor/tables/table_store.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -26,18 +26,41 @@ std::string tableName(const std::filesystem::path& file) {
   return name;
 }
 
+// A table as a result of Select, also when it has got columns since; null for a table of a file.
+const ResultTable* resultBehind(const Table* table) {
+  if (const auto* extended = dynamic_cast<const ExtendedTable*>(table)) return resultBehind(&extended->extended());
+  return dynamic_cast<const ResultTable*>(table);
+}
+
+// Whether rows of a result (or of no table) come from `source`.
+bool readsFrom(const TablePtr& table, const TablePtr& source) {
+  const ResultTable* result = resultBehind(table.get());
+  return result != nullptr && std::any_of(result->sources().begin(), result->sources().end(),
+                                          [&](const ResultSource& s) { return s.table == source; });
+}
+
+// A result whose rows come from `from`, as it is with `to` in its place; null for another table.
+ResultPtr following(const TablePtr& table, const TablePtr& from, const TablePtr& to) {
+  const auto result = std::dynamic_pointer_cast<const ResultTable>(table);
+  if (!readsFrom(result, from)) return nullptr;
+  ResultContents contents = result->contents();
+  for (ResultSource& source : contents.sources) {
+    if (source.table == from) source.table = to;
+  }
+  return std::make_shared<const ResultTable>(std::move(contents));
+}
+
 }  // namespace
 
-std::size_t OpenTables::indexOf(std::string_view name) const {
-  const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                  [&](const TableEntry& e) { return text::equalsIgnoringCase(e.name, name); });
-  return static_cast<std::size_t>(found - entries_.begin());
+OpenTables::Entries::iterator OpenTables::among(std::string_view name) {
+  const auto found = byName_.find(text::lower(name));
+  return found == byName_.end() ? entries_.end() : found->second;
 }
 
 const TableEntry* OpenTables::findEntry(std::string_view name) const {
   if (isSelection(name)) return selection_ ? &selectionEntry_ : nullptr;
-  const std::size_t index = indexOf(name);
-  return index == entries_.size() ? nullptr : &entries_[index];
+  const auto found = byName_.find(text::lower(name));
+  return found == byName_.end() ? nullptr : &*found->second;
 }
 
 TablePtr OpenTables::find(std::string_view name) const {
@@ -60,12 +83,19 @@ const TableEntry& OpenTables::newest() const {
 }
 
 void OpenTables::add(TableEntry entry) {
-  cursors_.open(entry.name, entry.table);
   entries_.push_back(std::move(entry));
+  byName_[text::lower(entries_.back().name)] = std::prev(entries_.end());
   ++generation_;
 }
 
-std::string OpenTables::open(const std::filesystem::path& file, const std::optional<std::string>& as) {
+OpenTables::Entries::iterator OpenTables::remove(Entries::iterator entry) {
+  byName_.erase(text::lower(entry->name));
+  ++generation_;
+  return entries_.erase(entry);
+}
+
+std::string OpenTables::open(const std::filesystem::path& file, const std::optional<std::string>& as,
+                             const TableStore::MayRead& mayRead) {
   if (as && isSelection(*as)) throw EngineError("una tabla no se puede llamar «Selection»");
   const auto again =
       std::find_if(entries_.begin(), entries_.end(), [&](const TableEntry& e) { return e.file == file; });
@@ -78,27 +108,44 @@ std::string OpenTables::open(const std::filesystem::path& file, const std::optio
   if (as && findEntry(name) != nullptr) throw EngineError("ya hay una tabla abierta con el nombre «" + name + "»");
   const std::string stem = name;
   for (int n = 2; findEntry(name) != nullptr; ++n) name = stem + "_" + std::to_string(n);
-  add({.name = name, .table = TableStore::shared().open(file), .file = file});
+  const TablePtr table = TableStore::shared().open(file, mayRead);
+  cursors_.open(name, table);
+  add({.name = name, .table = table, .file = file});
   return name;
 }
 
 void OpenTables::put(const std::string& name, ResultPtr result) {
   if (isSelection(name)) throw EngineError("una tabla no se puede llamar «Selection»");
-  const std::size_t index = indexOf(name);
-  if (index < entries_.size()) {
-    const TableEntry& open = entries_[index];
-    if (!open.file.empty()) throw EngineError("ya hay una tabla abierta con el nombre «" + open.name + "»");
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+  const auto open = among(name);
+  if (open != entries_.end()) {
+    if (!open->file.empty()) throw EngineError("ya hay una tabla abierta con el nombre «" + open->name + "»");
+    remove(open);
   }
+  cursors_.open(name, result);
   add({.name = name, .table = std::move(result)});
 }
 
-void OpenTables::replace(std::string_view name, TablePtr table) {
-  const std::size_t index = indexOf(name);
-  if (index == entries_.size()) throw EngineError("la tabla «" + std::string(name) + "» no está abierta");
-  entries_[index].table = std::move(table);
-  cursors_.open(entries_[index].name, entries_[index].table);
+std::map<TablePtr, TablePtr> OpenTables::replace(std::string_view name, const TablePtr& table) {
+  const auto open = among(name);
+  if (open == entries_.end()) throw EngineError("la tabla «" + std::string(name) + "» no está abierta");
+  const TablePtr old = open->table;
+  std::map<TablePtr, TablePtr> replaced{{old, table}};
+  for (const TableEntry& entry : entries_) {
+    if (const ResultPtr follower = following(entry.table, old, table)) replaced.emplace(entry.table, follower);
+  }
+  if (const ResultPtr follower = following(selection_, old, table)) {
+    selection_ = std::static_pointer_cast<const ResultTable>(replaced.emplace(selection_, follower).first->second);
+    selectionEntry_.table = selection_;
+    cursors_.replace(kSelection, selection_);
+  }
+  for (TableEntry& entry : entries_) {
+    const auto found = replaced.find(entry.table);
+    if (found == replaced.end()) continue;
+    entry.table = found->second;
+    cursors_.replace(entry.name, entry.table);
+  }
   ++generation_;
+  return replaced;
 }
 
 std::vector<TableEntry> OpenTables::close(std::string_view name) {
@@ -107,20 +154,17 @@ std::vector<TableEntry> OpenTables::close(std::string_view name) {
     return {};
   }
   const TableEntry closed = at(name);
-  const auto dependsOnIt = [&](const TablePtr& table) {
-    const auto* result = dynamic_cast<const ResultTable*>(table.get());
-    return result != nullptr && std::any_of(result->sources().begin(), result->sources().end(),
-                                            [&](const ResultSource& s) { return s.table == closed.table; });
-  };
-  if (selection_ && dependsOnIt(selection_)) deselect();
+  if (readsFrom(selection_, closed.table)) deselect();
   std::vector<TableEntry> gone;
-  std::erase_if(entries_, [&](const TableEntry& e) {
-    if (e.table != closed.table && !dependsOnIt(e.table)) return false;
-    cursors_.close(e.name);
-    gone.push_back(e);
-    return true;
-  });
-  ++generation_;
+  for (auto entry = entries_.begin(); entry != entries_.end();) {
+    if (entry->table != closed.table && !readsFrom(entry->table, closed.table)) {
+      ++entry;
+      continue;
+    }
+    cursors_.close(entry->name);
+    gone.push_back(*entry);
+    entry = remove(entry);
+  }
   return gone;
 }
 
@@ -147,8 +191,8 @@ std::string OpenTables::nameOfSelection() {
     do {
       selectionName_ = "Query" + std::to_string(++snapshots_);
     } while (find(selectionName_));
-    put(selectionName_, selection_);
-    entries_.back().snapshot = true;
+    cursors_.openBeside(selectionName_, kSelection);
+    add({.name = selectionName_, .table = selection_, .file = {}, .snapshot = true});
   }
   return selectionName_;
 }

@@ -20,6 +20,8 @@ class PreparedExpression::BoundScope final : public Scope {
     return scope_.read(prepared_.bindings_.back().second);
   }
 
+  [[nodiscard]] bool hides(const NameReference& constant) const override { return scope_.hides(constant); }
+
   [[nodiscard]] Value column(const std::string& table, double number, Position position) const override {
     return scope_.column(table, number, position);
   }

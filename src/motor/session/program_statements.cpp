@@ -1,5 +1,8 @@
+#include <algorithm>
+#include <array>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "motor/language/parser.h"
 #include "motor/language/workspace.h"
@@ -13,6 +16,13 @@
 
 namespace motor {
 namespace {
+
+// What went wrong in a workspace: its file and the place in it. The place of the statement that runs it would tell
+// nothing more.
+class WorkspaceError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
 std::string contentsOf(const std::filesystem::path& file, const std::string& written) {
   std::error_code failed;
@@ -34,10 +44,12 @@ void runWorkspace(SessionState& session, const std::filesystem::path& file, cons
   } const inside(session.workspaceFolders, file.parent_path());
   try {
     session.run(parseWorkspace(bytes).statements);
+  } catch (const WorkspaceError& e) {
+    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
   } catch (const LanguageError& e) {
-    throw EngineError(textOf(file.filename()) + ": " + e.what());
+    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
   } catch (const EngineError& e) {
-    throw EngineError(textOf(file.filename()) + ": " + e.what());
+    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
   }
 }
 
@@ -68,6 +80,7 @@ void execute(SessionState& session, const EndSession& /*statement*/) {
 
 void execute(SessionState& session, const SetCoordSys& statement) {
   session.coordinateSystem = coordinateSystemOf(statement.coordSys, session);
+  session.drawsOnLayout = statement.coordSys.kind == CoordSysClause::Kind::layout;
 }
 
 void execute(SessionState& session, const SetUnits& statement) {
@@ -111,7 +124,13 @@ void execute(SessionState& session, const Assignment& statement) {
   variable->second = statement.value->evaluate(session.scope);
 }
 
-void execute(SessionState& /*session*/, const PassedOver& /*statement*/) {}
+void execute(SessionState& session, const PassedOver& statement) {
+  constexpr std::array kDocuments{"browse", "graph", "layout"};
+  const bool isDocument = std::any_of(kDocuments.begin(), kDocuments.end(), [&](const char* document) {
+    return text::equalsIgnoringCase(statement.name, document);
+  });
+  if (isDocument) session.passOverDocument();
+}
 
 void execute(SessionState& /*session*/, const Refused& statement) {
   throw LanguageError(statement.position, statement.name, "no se permite: los datos solo se leen");

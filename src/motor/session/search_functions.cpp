@@ -20,6 +20,9 @@ Value searchPoint(SessionState& session, const Arguments& arguments) {
   const Map& map = session.window(arguments.integer(0)).map();
   const Point at = toMapCoordinates(session, map, {arguments.number(1), arguments.number(2)});
   session.hits.clear();
+  if (isSearched(map.cosmetic, map)) {
+    for (const RowId row : rowsAt(map, map.cosmetic, at)) session.hits.push_back({map.cosmetic.name, row});
+  }
   for (const Hit& hit : objectsAt(map, at)) session.hits.push_back({map.layers[hit.layer].name, hit.row});
   return static_cast<double>(session.hits.size());
 }

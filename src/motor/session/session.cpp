@@ -1,5 +1,7 @@
 #include "motor/session/session.h"
 
+#include <new>
+
 #include "motor/language/parser.h"
 #include "motor/session/session_state.h"
 #include "text/failure.h"
@@ -7,15 +9,18 @@
 namespace motor {
 namespace {
 
-// Does what the port asks, and turns what the engine rejects into the port's failure.
+// Does what the port asks, and turns whatever goes wrong into the port's failure. Failures of the program's own
+// handlers and its end pass through.
 template <typename Action>
 auto atPort(const SessionState& session, Action action) {
   try {
     if (session.ended) throw EngineError("la sesión ha terminado");
     return action();
-  } catch (const LanguageError& e) {
-    throw failures::engineRejected(e.what());
-  } catch (const EngineError& e) {
+  } catch (const Failure&) {
+    throw;
+  } catch (const std::bad_alloc&) {
+    throw failures::engineRejected("no hay memoria suficiente");
+  } catch (const std::exception& e) {
     throw failures::engineRejected(e.what());
   }
 }

@@ -33,6 +33,25 @@ TEST_F(CallbackTest, buttonsCallBackWithThePoint) {
             (std::vector<std::string>{"InfoDatos MI:-3.25,41.5,F,T,,,2003,", "Info MI:-3.25,41.5,T,F,,,2001,"}));
 }
 
+TEST_F(CallbackTest, aButtonThatIsGoneGivesWayToTheSelectTool) {
+  run("run menu command ID 2001");
+  run("Alter ButtonPad \"Callback\" Remove 2001");
+  EXPECT_NO_THROW(map().clicked(kCentre, false, false));
+  EXPECT_TRUE(callback->calls.empty());
+  EXPECT_EQ(map().tool().command, 1701);
+  EXPECT_EQ(eval("selectioninfo(3)"), "0");
+}
+
+TEST_F(CallbackTest, ofSeveralButtonsWithOneIdTheNewestPadsCounts) {
+  run("Create ButtonPad \"A\" As ToolButton ID 2001 DrawMode 34 Cursor 2 Calling OLE \"deA\"");
+  run("run menu command ID 2001");
+  EXPECT_EQ(map().tool().cursor, 2);
+  map().clickedAt({-3, 41}, false, false);
+  run("Create Buttonpad \"Callback\" As Toolbutton ID 2001 DrawMode 34 Cursor 138 Calling OLE \"Info\"");
+  map().clickedAt({-3, 41}, false, false);
+  EXPECT_EQ(callback->calls, (std::vector<std::string>{"deA MI:-3,41,F,F,,,2001,", "Info MI:-3,41,F,F,,,2001,"}));
+}
+
 TEST_F(CallbackTest, coordinatesAreTheSessions) {
   map().resized(640, 480);
   run("Set CoordSys Earth Projection 8, 104, \"m\", -3, 0, 0.9996, 500000, 0");

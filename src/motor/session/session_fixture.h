@@ -20,11 +20,18 @@ class NotingWindows final : public HeadlessWindows {
  public:
   std::vector<std::string> notes;
   bool answersCommands = false;
+  std::function<void()> whenChanged;
+  std::int64_t legend = 0;  // the handle of its window
 
   void closeMap(MapWindow& window) override {
     notes.emplace_back("close");
     HeadlessWindows::closeMap(window);
   }
+  void mapChanged(MapWindow& window) override {
+    HeadlessWindows::mapChanged(window);
+    if (whenChanged) whenChanged();
+  }
+  [[nodiscard]] std::int64_t legendHandle() override { return legend; }
   void resize(MapWindow& window, int width, int height) override {
     notes.push_back("resize " + std::to_string(width) + "x" + std::to_string(height));
     HeadlessWindows::resize(window, width, height);

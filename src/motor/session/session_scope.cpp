@@ -30,6 +30,10 @@ Value SessionScope::call(const FunctionCall& function, std::span<const Value> ar
   return session_.functions.call(function, arguments);
 }
 
+bool SessionScope::hides(const NameReference& constant) const {
+  return session_.variables.count(text::lower(constant.name())) != 0;
+}
+
 ColumnBinding SessionScope::bind(const NameReference& reference) const {
   const TablePtr table = session_.tables.find(reference.table());
   if (!table) {

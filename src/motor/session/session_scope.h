@@ -31,6 +31,7 @@ class SessionScope : public Scope {
   [[nodiscard]] Value name(const NameReference& reference) const override;
   [[nodiscard]] Value column(const std::string& table, double number, Position position) const override;
   [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const override;
+  [[nodiscard]] bool hides(const NameReference& constant) const override;
 
   // Throws LanguageError when the table is not open or has no such column.
   [[nodiscard]] ColumnBinding bind(const NameReference& reference) const;

@@ -7,6 +7,7 @@
 
 #include "motor/session/executors.h"
 #include "motor/session/session_functions.h"
+#include "motor/session/statement_words.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -27,6 +28,8 @@ std::string defaultTitle(const Map& map) {
 // Statements may run statements; endless circles must not.
 constexpr int kDeepest = 16;
 
+constexpr int kRulerTool = 1710;
+
 }  // namespace
 
 SessionState::SessionState(WindowPort& windowPort, SessionOptions sessionOptions)
@@ -42,11 +45,21 @@ MapWindow& SessionState::openWindow(Map map) {
   window->map_.cosmetic.name = "Cosmetic" + std::to_string(++cosmeticTables_);
   window->properties_.title = defaultTitle(window->map_);
   window->properties_.distanceUnit = distanceUnit;
+  window->handle_ = port.openMap(*window);
   windows_.push_back(std::move(window));
-  MapWindow& opened = *windows_.back();
-  front_ = opened.id();
-  opened.handle_ = port.openMap(opened);
-  return opened;
+  bringToFront(*windows_.back());
+  return *windows_.back();
+}
+
+void SessionState::passOverDocument() { frontPassedOver_ = *passedOver_.insert(nextWindowId()).first; }
+
+std::int32_t SessionState::frontDocument() const { return frontPassedOver_ != 0 ? frontPassedOver_ : front_; }
+
+bool SessionState::isPassedOver(std::int32_t id) const { return passedOver_.count(id) != 0; }
+
+void SessionState::closePassedOver(std::int32_t id) {
+  passedOver_.erase(id);
+  if (frontPassedOver_ == id) frontPassedOver_ = 0;
 }
 
 void SessionState::closeWindow(MapWindow& window) {
@@ -63,6 +76,8 @@ void SessionState::closeWindow(MapWindow& window) {
 
 void SessionState::closeAllWindows() {
   while (!windows_.empty()) closeWindow(*windows_.back());
+  passedOver_.clear();
+  frontPassedOver_ = 0;
 }
 
 MapWindow* SessionState::frontWindow() const {
@@ -82,6 +97,12 @@ MapWindow& SessionState::windowOrFront(const ExpressionPtr& id) const {
   MapWindow* front = frontWindow();
   if (front == nullptr) throw EngineError("no hay ninguna ventana de mapa abierta");
   return *front;
+}
+
+void SessionState::chooseTool(const Tool& tool) {
+  toolbox.choose(tool);
+  rulerOpen = tool.command == kRulerTool;
+  allMapsChanged();
 }
 
 void SessionState::allMapsChanged() {
@@ -114,7 +135,11 @@ void SessionState::run(const std::vector<Statement>& statements) {
   } const deeper(depth_);
   for (const Statement& statement : statements) {
     if (ended) throw EngineError("la sesión ha terminado");
-    std::visit([this](const auto& s) { execute(*this, s); }, statement);
+    try {
+      std::visit([this](const auto& s) { execute(*this, s); }, statement);
+    } catch (const EngineError& e) {
+      throw LanguageError(positionOf(statement), firstWord(statement), e.what());
+    }
   }
 }
 

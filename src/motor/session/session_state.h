@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -55,7 +56,9 @@ class SessionState {
   Toolbox toolbox;
   LegendState legend;
   std::int64_t rulerParent = 0;
+  bool rulerOpen = false;
   CoordinateSystem coordinateSystem;  // of coordinates in statements, functions and callbacks
+  bool drawsOnLayout = false;         // that system is a layout's paper
   std::string distanceUnit = "mi";
   std::string paperUnit = "in";
   std::map<std::string, Value> variables;  // by name in lower case
@@ -79,12 +82,26 @@ class SessionState {
   void closeAllWindows();
   // The map window in front; null when there is none.
   [[nodiscard]] MapWindow* frontWindow() const;
-  void bringToFront(const MapWindow& window) { front_ = window.id(); }
+  void bringToFront(const MapWindow& window) {
+    front_ = window.id();
+    frontPassedOver_ = 0;
+  }
   // Throws EngineError for an id that no map window has.
   [[nodiscard]] MapWindow& window(std::int32_t id) const;
   // The window of an id expression, or the front map when it was left out. Throws EngineError when there is none.
   [[nodiscard]] MapWindow& windowOrFront(const ExpressionPtr& id) const;
   void allMapsChanged();
+  // The tool in the user's hand from now on; choosing the ruler opens its window, choosing another closes it.
+  void chooseTool(const Tool& tool);
+
+  // --- documents that are not kept (browsers, layouts, legends of their own): each is an id only, so that what is said
+  // about the front document after one was made does not hit a map ---
+  // One was made; it is in front until it is closed or a map comes to the front.
+  void passOverDocument();
+  [[nodiscard]] bool isPassedOver(std::int32_t id) const;
+  void closePassedOver(std::int32_t id);
+  // The id of the document in front, a map or one that is not kept; 0 when there is none.
+  [[nodiscard]] std::int32_t frontDocument() const;
 
   // --- evaluation ---
   [[nodiscard]] double number(const ExpressionPtr& expression) const;
@@ -98,6 +115,8 @@ class SessionState {
   void useNumberSigns(const NumberSigns& signs);
 
  private:
+  std::set<std::int32_t> passedOver_;                // ids
+  std::int32_t frontPassedOver_ = 0;                 // the one that is in front of the maps, or 0
   std::vector<std::unique_ptr<MapWindow>> windows_;  // in opening order
   std::int32_t front_ = 0;
   int cosmeticTables_ = 0;

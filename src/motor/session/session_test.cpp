@@ -64,8 +64,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{{"set window frontwindow() title \"Mapa\""}, "windowinfo(frontwindow(),1)", "Mapa"},
                     Case{{}, "Windowinfo(1009,11)", "F"}, Case{{"open window legend"}, "Windowinfo(1009,11)", "T"},
                     Case{{"open window legend", "close window legend"}, "Windowinfo(1009,11)", "F"},
-                    Case{{"Close Window Legend"}, "Windowinfo(1009,11)", "F"},
+                    Case{{"Close Window Legend"}, "Windowinfo(1009,11)", "F"}, Case{{}, "Windowinfo(1009,12)", "0"},
+                    Case{{"open window legend"}, "Windowinfo(1009,12)", "0"},
                     Case{{"run menu command 1710"}, "Windowinfo(1007,11)", "T"},
+                    Case{{"run menu command 1710", "run menu command 1701"}, "Windowinfo(1007,11)", "F"},
+                    Case{{"run menu command 1710", "Close Window Ruler"}, "Windowinfo(1007,11)", "F"},
+                    Case{{"Open Window Ruler"}, "Windowinfo(1007,11)", "T"},
+                    Case{{"Open Window Ruler", "Close Window Ruler"}, "Windowinfo(1007,11)", "F"},
+                    Case{
+                        {"Set Window Toolbar Position (1,1) Units \"in\"", "Open Window Linkinfo",
+                         "Close Window LinkInfo", "Set Window MapInfo Max", "Set Window Statistics Hide",
+                         "Open Window Help", "Set Window ToolPicker Hide", "Set Window Message Font (\"Arial\",0,9,0)"},
+                        "numallwindows()",
+                        "1"},
                     Case{{"Set application Window 42", "Set Window Ruler Parent 42", "Set Window Legend Parent 42"},
                          "numallwindows()",
                          "1"}));
@@ -97,6 +108,19 @@ INSTANTIATE_TEST_SUITE_P(
         Case{{"set map order 2,1,3"}, "layerinfo(frontwindow(),1,1)", "ZonasBasicas2001"},
         Case{{"set map order 2,1,3", "set map order 2,1,3"}, "layerinfo(frontwindow(),1,1)", "Provincias2001"},
         Case{{"set map order 3"}, "layerinfo(frontwindow(),2,1)", "Provincias2001"},
+        Case{{"Shade 2 with Valor values 1 Brush (2,255,0)", "set map order 2"},
+             "layerinfo(frontwindow(),1,1)",
+             "ZonasBasicas2001(1)"},
+        Case{{"Shade 2 with Valor values 1 Brush (2,255,0)", "set map order 2"},
+             "layerinfo(frontwindow(),2,1)",
+             "ZonasBasicas2001"},
+        Case{{"Shade 2 with Valor values 1 Brush (2,255,0)", "set map order 2"},
+             "layerinfo(frontwindow(),3,1)",
+             "Provincias2001"},
+        Case{{"Shade 2 with Valor values 1 Brush (2,255,0)", "Shade 2 with Valor values 2 Brush (2,255,0)",
+              "set map order 3"},
+             "layerinfo(frontwindow(),1,1)",
+             "ZonasBasicas2001(1)"},
         Case{{"Add Map Layer Veldoria2001"}, "mapperinfo(frontwindow(),9)", "4"},
         Case{{"Add Map Layer Veldoria2001"}, "layerinfo(frontwindow(),1,1)", "Veldoria2001"},
         Case{{"Add Map Auto Layer Veldoria2001"}, "layerinfo(frontwindow(),1,1)", "Veldoria2001"},
@@ -191,6 +215,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Case{{}, "SearchPoint(WindowID(1),-5,40.5)", "2"},
                     Case{{"set map layer 2 display off"}, "SearchPoint(WindowID(1),-5,40.5)", "1"},
                     Case{{"set map layer 1 zoom (0,10) units \"km\" on"}, "SearchPoint(WindowID(1),-5,40.5)", "1"},
+                    Case{{"Create Rect (-6,40) (-5.5,41)"}, "SearchPoint(WindowID(1),-5.75,40.5)", "3"},
+                    Case{{"Create Rect (-6,40) (-5.5,41)"}, "SearchPoint(WindowID(1),-5,40.5)", "2"},
+                    Case{{"Create Rect (-6,40) (-5.5,41)", "set map layer 0 selectable off"},
+                         "SearchPoint(WindowID(1),-5.75,40.5)",
+                         "2"},
                     Case{{}, "SearchPoint(WindowID(1),10,10)", "0"}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -253,6 +282,27 @@ TEST_F(SessionTest, aThemeStaysAboveItsBaseInAnyOrder) {
   EXPECT_EQ(eval("layerinfo(frontwindow(),2,1)"), "Veldoria2001");
   EXPECT_EQ(eval("layerinfo(frontwindow(),3,1)"), "ZonasBasicas2001(1)");
   EXPECT_EQ(eval("layerinfo(frontwindow(),4,1)"), "ZonasBasicas2001");
+}
+
+TEST_F(SessionTest, aSearchFindsCosmeticObjectsFirst) {
+  openYear();
+  run("Create Point (-3,41) Create Rect (-6,40) (-5.5,41)");
+  ASSERT_EQ(eval("SearchPoint(WindowID(1),-5.75,40.5)"), "3");
+  EXPECT_EQ(eval("SearchInfo(1,1)"), "Cosmetic1");
+  EXPECT_EQ(eval("SearchInfo(1,2)"), "2");
+  EXPECT_EQ(eval("SearchInfo(2,1)"), "Provincias2001");
+}
+
+TEST_F(SessionTest, theLegendsWindowMayHaveAHandleAndACloseBox) {
+  openYear();
+  windows.legend = 4712;
+  EXPECT_EQ(eval("windowinfo(1009,12)"), "0");
+  run("open window legend");
+  EXPECT_EQ(eval("windowinfo(1009,12)"), "4712");
+  map().legendClosed();
+  EXPECT_EQ(eval("windowinfo(1009,11)"), "F");
+  EXPECT_EQ(eval("windowinfo(1009,12)"), "0");
+  EXPECT_EQ(eval("numallwindows()"), "1");
 }
 
 TEST_F(SessionTest, labelsGoBackToDefault) {

@@ -1,49 +1,29 @@
 #include "motor/session/special_windows.h"
 
 #include <algorithm>
-#include <array>
-#include <string>
 
 #include "motor/session/session_state.h"
 
 namespace motor {
-namespace {
 
-struct SpecialWindow {
-  const char* name;
-  int code;
-};
-
-constexpr std::array<SpecialWindow, 11> kWindows{{{"help", 1001},
-                                                  {"mapbasic", 1002},
-                                                  {"message", 1003},
-                                                  {"toolpicker", 1004},
-                                                  {"penpicker", 1005},
-                                                  {"symbolpicker", 1006},
-                                                  {"ruler", kRulerWindow},
-                                                  {"info", 1008},
-                                                  {"legend", kLegendWindow},
-                                                  {"statistics", 1010},
-                                                  {"mapinfo", 1011}}};
-
-constexpr int kRulerTool = 1710;
-
-}  // namespace
-
-int specialWindowCode(std::string_view name) {
-  for (const SpecialWindow& window : kWindows) {
-    if (name == window.name) return window.code;
+std::optional<int> specialWindowOf(const WindowReference& reference, const SessionState& session) {
+  if (reference.name.empty()) {
+    const int id = session.integer(reference.id);
+    return isSpecialWindow(id) ? std::optional(id) : std::nullopt;
   }
-  throw EngineError("no hay ninguna ventana «" + std::string(name) + "»");
+  const auto found = std::find_if(kSpecialWindows.begin(), kSpecialWindows.end(),
+                                  [&](const SpecialWindow& w) { return w.name == reference.name; });
+  if (found == kSpecialWindows.end()) throw EngineError("no hay ninguna ventana «" + reference.name + "»");
+  return found->code;
 }
 
 bool isSpecialWindow(int code) {
-  return std::any_of(kWindows.begin(), kWindows.end(), [code](const SpecialWindow& w) { return w.code == code; });
+  return code != 0 && std::any_of(kSpecialWindows.begin(), kSpecialWindows.end(),
+                                  [code](const SpecialWindow& w) { return w.code == code; });
 }
 
 bool isSpecialWindowOpen(const SessionState& session, int code) {
-  if (code == kLegendWindow) return session.legend.open;
-  return code == kRulerWindow && session.toolbox.tool().command == kRulerTool;
+  return (code == kLegendWindow && session.legend.open) || (code == kRulerWindow && session.rulerOpen);
 }
 
 }  // namespace motor

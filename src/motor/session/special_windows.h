@@ -1,20 +1,18 @@
 #pragma once
 
-#include <string_view>
+#include "motor/language/special_windows.h"
+#include "motor/language/statements/parts.h"
 
 namespace motor {
 
 class SessionState;
 
-// The codes by which WindowInfo and WindowID know the windows that are no documents.
-inline constexpr int kRulerWindow = 1007;
-inline constexpr int kLegendWindow = 1009;
-
-// The code of a special window by its name in lower case ("legend", "ruler", ...). Throws EngineError for another name.
-[[nodiscard]] int specialWindowCode(std::string_view name);
+// The code of the special window that a clause speaks of, 0 for one without a code (see special_windows.h); none for a
+// document.
+[[nodiscard]] std::optional<int> specialWindowOf(const WindowReference& reference, const SessionState& session);
 [[nodiscard]] bool isSpecialWindow(int code);
 
-// Whether a special window is open: the legend when it is shown, the ruler while its tool is current.
+// Whether a special window is open. Only the legend and the ruler ever are.
 [[nodiscard]] bool isSpecialWindowOpen(const SessionState& session, int code);
 
 }  // namespace motor

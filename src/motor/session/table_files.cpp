@@ -27,7 +27,7 @@ bool isDevice(const std::string& component) {
 void refuseUnsafe(const std::string& written, const std::string& path) {
   const bool network = path.starts_with("//");
   bool unsafe = network || path.find('\0') != std::string::npos;
-  for (const fs::path& part : pathOf(path)) unsafe = unsafe || part == ".." || isDevice(textOf(part));
+  for (const fs::path& part : pathOf(path)) unsafe = unsafe || isDevice(textOf(part));
   if (unsafe) throw EngineError("«" + written + "»: ruta no permitida");
 }
 
@@ -85,8 +85,25 @@ fs::path TableFiles::table(const std::string& written, const std::optional<fs::p
   return locate(written, workspaceFolder, {".tab", ".mif"});
 }
 
+bool TableFiles::mayRead(const fs::path& file) const {
+  std::error_code failed;
+  const fs::path canonical = fs::weakly_canonical(file, failed);
+  return !failed && isBelowRoot(canonical);
+}
+
 fs::path TableFiles::workspace(const std::string& written, const fs::path& workspaceFolder) const {
   return locate(written, workspaceFolder, {"", ".wor"});
+}
+
+std::vector<fs::path> rootsOf(const fs::path& workspace) {
+  const fs::path own = fs::absolute(workspace).lexically_normal().parent_path();
+  std::vector<fs::path> roots{own};
+  for (fs::path folder = own; folder.has_relative_path(); folder = folder.parent_path()) {
+    if (!text::equalsIgnoringCase(textOf(folder.filename()), "Tablas")) continue;
+    roots.push_back(folder.parent_path());
+    break;
+  }
+  return roots;
 }
 
 }  // namespace motor

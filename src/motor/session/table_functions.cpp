@@ -1,4 +1,5 @@
 #include <array>
+#include <iterator>
 
 #include "motor/session/attributes.h"
 #include "motor/session/path_text.h"
@@ -15,9 +16,10 @@ constexpr int kResult = 2;
 
 // From 1 in opening order; 0 for the Selection.
 int numberOf(const SessionState& session, const TableEntry& entry) {
-  const auto& entries = session.tables.entries();
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (entries[i].name == entry.name) return static_cast<int>(i) + 1;
+  int number = 0;
+  for (const TableEntry& other : session.tables.entries()) {
+    ++number;
+    if (other.name == entry.name) return number;
   }
   return 0;
 }
@@ -65,13 +67,15 @@ const TableEntry& tableOfArgument(const SessionState& session, const Arguments& 
   if (number == 0) return session.tables.newest();
   if (number < 0 || number > static_cast<int>(entries.size()))
     arguments.reject(0, "no hay ninguna tabla con ese número");
-  return entries[static_cast<std::size_t>(number - 1)];
+  return *std::next(entries.begin(), number - 1);
 }
 
 using SelectionAttribute = Attribute<ResultPtr, std::string>;
 
 constexpr std::array kSelectionAttributes{
-    SelectionAttribute{1, [](const ResultPtr& s, const std::string&) -> Value { return s ? s->base().name : ""; }},
+    SelectionAttribute{
+        1,
+        [](const ResultPtr& s, const std::string&) -> Value { return s && s->rowCount() > 0 ? s->base().name : ""; }},
     SelectionAttribute{2, [](const ResultPtr&, const std::string& name) -> Value { return name; }},
     SelectionAttribute{
         3,
@@ -86,8 +90,10 @@ Value tableInfo(SessionState& session, const Arguments& arguments) {
 
 Value selectionInfo(SessionState& session, const Arguments& arguments) {
   // Only asking for the name opens a table that has it.
-  const std::string name = arguments.integer(0) == 2 ? session.tables.nameOfSelection() : std::string();
-  return readAttribute(kSelectionAttributes, arguments, 0, session.tables.selection(), name);
+  const ResultPtr selection = session.tables.selection();
+  const bool asksName = arguments.integer(0) == 2 && selection && selection->rowCount() > 0;
+  return readAttribute(kSelectionAttributes, arguments, 0, selection,
+                       asksName ? session.tables.nameOfSelection() : std::string());
 }
 
 Value numberOfTables(SessionState& session, const Arguments& /*arguments*/) {

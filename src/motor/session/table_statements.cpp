@@ -3,6 +3,7 @@
 #include "motor/session/executors.h"
 #include "motor/session/map_layers.h"
 #include "motor/session/session_state.h"
+#include "text/utf8.h"
 
 namespace motor {
 namespace {
@@ -29,11 +30,18 @@ void execute(SessionState& session, const OpenTable& statement) {
   std::optional<std::filesystem::path> folder;
   if (!session.workspaceFolders.empty()) folder = session.workspaceFolders.back();
   const std::filesystem::path file = session.files.table(session.text(statement.file), folder);
-  session.tables.open(file, statement.as ? std::optional(statement.as->text) : std::nullopt);
+  session.tables.open(file, statement.as ? std::optional(statement.as->text) : std::nullopt,
+                      [&session](const std::filesystem::path& part) { return session.files.mayRead(part); });
 }
 
 void execute(SessionState& session, const CloseTable& statement) {
+  const auto isSelection = [](const Name& table) { return text::equalsIgnoringCase(table.text, "Selection"); };
   for (const Name& table : statement.tables) {
+    if (!isSelection(table)) static_cast<void>(session.tables.at(table.text));
+  }
+  for (const Name& table : statement.tables) {
+    // A result goes with the table that it was selected from.
+    if (!isSelection(table) && !session.tables.find(table.text)) continue;
     for (const TableEntry& closed : session.tables.close(table.text)) removeLayersOf(session, closed.table);
   }
   session.allMapsChanged();

@@ -13,8 +13,8 @@ class TextCache {
  public:
   using Pointer = std::shared_ptr<const T>;
 
-  // `make(text)` gives the value of a text that is not known yet; what it throws passes through and nothing is kept. The
-  // reference is good until the next call; copy it where the value may be needed for longer.
+  // `make(text)` gives the value of a text that is not known yet; what it throws passes through and nothing is kept.
+  // The reference is good until the next call; copy it where the value may be needed for longer.
   template <typename Make>
   [[nodiscard]] const Pointer& get(const std::string& text, Make make) {
     const auto found = values_.find(text);

@@ -8,18 +8,16 @@
 namespace motor {
 namespace {
 
-// The window's theme that a clause names, or the one created or changed last.
-Layer& themeOf(MapWindow& window, const std::optional<LayerReference>& reference, const SessionState& session,
-               Position position) {
-  Map& map = window.map();
+// The map's theme that a clause names, or the one created or changed last.
+Layer& themeOf(Map& map, const std::string& last, const std::optional<LayerReference>& reference,
+               const SessionState& session, Position position) {
   if (reference) {
     Layer& layer = map.layers[layerIndexOf(map, *reference, session)];
     if (!layer.theme) throw LanguageError(reference->position, layer.name, "la capa no es temática");
     return layer;
   }
-  const auto previous = std::find_if(map.layers.begin(), map.layers.end(), [&](const Layer& l) {
-    return l.theme && l.name == window.properties().lastTheme;
-  });
+  const auto previous =
+      std::find_if(map.layers.begin(), map.layers.end(), [&](const Layer& l) { return l.theme && l.name == last; });
   if (previous == map.layers.end()) throw LanguageError(position, "Prev", "no hay ninguna capa temática anterior");
   return *previous;
 }
@@ -38,7 +36,7 @@ void execute(SessionState& session, const Shade& statement) {
 void execute(SessionState& session, const SetShade& statement) {
   MapWindow& window = session.windowOrFront(statement.shade.window);
   const auto reference = statement.previous ? std::nullopt : std::optional(statement.shade.layer);
-  Layer& layer = themeOf(window, reference, session, statement.position);
+  Layer& layer = themeOf(window.map(), window.properties().lastTheme, reference, session, statement.position);
   layer.theme = std::make_shared<const Shade>(statement.shade);
   window.properties().lastTheme = layer.name;
   window.changed();
@@ -46,11 +44,15 @@ void execute(SessionState& session, const SetShade& statement) {
 
 void execute(SessionState& session, const SetLegend& statement) {
   MapWindow& window = session.windowOrFront(statement.window);
+  Map map = window.map();
+  std::string last = window.properties().lastTheme;
   for (const LegendLayer& legend : statement.layers) {
-    Layer& layer = themeOf(window, legend.layer, session, legend.position);
+    Layer& layer = themeOf(map, last, legend.layer, session, legend.position);
     layer.legend = std::make_shared<const LegendLayer>(legend);
-    window.properties().lastTheme = layer.name;
+    last = layer.name;
   }
+  window.map() = std::move(map);
+  window.properties().lastTheme = std::move(last);
   window.changed();
 }
 

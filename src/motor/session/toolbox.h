@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,15 +47,22 @@ class Toolbox {
   [[nodiscard]] std::vector<ToolButton>& pad(int number);
   void destroyPad(std::string_view title);
 
-  // Throws EngineError for an id that no button has.
+  // Of several buttons with this id the newest, of the pad that was created last; null when there is none.
+  [[nodiscard]] const ToolButton* findButton(int id) const;
+  // The same; throws EngineError for an id that no button has.
   [[nodiscard]] const ToolButton& button(int id) const;
 
   [[nodiscard]] const Tool& tool() const { return tool_; }
   void choose(const Tool& tool) { tool_ = tool; }
 
  private:
+  struct Pad {
+    std::string title;  // in lower case
+    std::vector<ToolButton> buttons;
+  };
+
   std::vector<MenuEntry> shortcutMenu_;
-  std::map<std::string, std::vector<ToolButton>> pads_;  // by title in lower case
+  std::vector<Pad> pads_;  // the newest last
   Tool tool_;
 };
 

@@ -48,6 +48,11 @@ constexpr std::array kMapAttributes{
 constexpr std::array kSpecialAttributes{
     SpecialAttribute{3, [](const SessionState&, const int& code) -> Value { return code; }},
     SpecialAttribute{11, [](const SessionState& s, const int& code) -> Value { return isSpecialWindowOpen(s, code); }},
+    SpecialAttribute{12,
+                     [](const SessionState& s, const int& code) -> Value {
+                       const bool isShown = code == kLegendWindow && s.legend.open;
+                       return isShown ? static_cast<double>(s.port.legendHandle()) : 0;
+                     }},
     SpecialAttribute{13, [](const SessionState&, const int& code) -> Value { return code; }},
 };
 
@@ -63,10 +68,7 @@ Value windowId(SessionState& session, const Arguments& arguments) {
   return windows[index]->id();
 }
 
-Value frontWindow(SessionState& session, const Arguments& /*arguments*/) {
-  const MapWindow* front = session.frontWindow();
-  return front == nullptr ? 0 : front->id();
-}
+Value frontWindow(SessionState& session, const Arguments& /*arguments*/) { return session.frontDocument(); }
 
 Value windowInfo(SessionState& session, const Arguments& arguments) {
   const int id = arguments.integer(0);

@@ -28,6 +28,8 @@ class WindowPort {
   // The legend and ruler windows: shown or hidden, and where (pixels relative to their parent window's handle).
   virtual void showLegend(MapWindow& window, std::int64_t parent, int x, int y) = 0;
   virtual void hideLegend() = 0;
+  // The window handle of the legend that is shown; 0 when there is none or it has no handle.
+  [[nodiscard]] virtual std::int64_t legendHandle() { return 0; }
 
   // Menu commands with a dialog of their own or that act on the whole window: 112 print, 801 layer control, 807 view
   // entire layer. False when there is no screen to show it on.

@@ -21,30 +21,26 @@ std::int64_t handleOf(const ExpressionPtr& handle, const SessionState& session) 
 }
 
 void setLegendWindow(SessionState& session, const SetWindow& statement) {
-  if (statement.parent) session.legend.parent = handleOf(statement.parent, session);
+  LegendState legend = session.legend;
+  if (statement.parent) legend.parent = handleOf(statement.parent, session);
   if (const auto& placement = statement.shape.position) {
     const Point at = session.point(placement->at);
-    session.legend.x = paperPixels(at.x, placement->unit.empty() ? session.paperUnit : placement->unit);
-    session.legend.y = paperPixels(at.y, placement->unit.empty() ? session.paperUnit : placement->unit);
+    legend.x = paperPixels(at.x, placement->unit.empty() ? session.paperUnit : placement->unit);
+    legend.y = paperPixels(at.y, placement->unit.empty() ? session.paperUnit : placement->unit);
   }
+  session.legend = legend;
   placeLegend(session);
 }
 
 void setMapWindow(SessionState& session, MapWindow& window, const SetWindow& statement) {
-  setShape(session, window, statement.shape);
+  const EvaluatedShape shape = evaluate(statement.shape, session);
   MapWindowProperties& properties = window.properties();
   if (statement.title) properties.title = session.text(statement.title);
   properties.scrollBars = statement.scrollBars.value_or(properties.scrollBars);
   properties.autoscroll = statement.autoscroll.value_or(properties.autoscroll);
   properties.closeBox = statement.closeBox.value_or(properties.closeBox);
+  setShape(session, window, shape);
   if (statement.front) session.bringToFront(window);
-}
-
-// The code of the special window that a clause speaks of, or 0.
-int specialWindowOf(const WindowReference& reference, const SessionState& session) {
-  if (!reference.name.empty()) return specialWindowCode(reference.name);
-  const int id = session.integer(reference.id);
-  return isSpecialWindow(id) ? id : 0;
 }
 
 void openLegend(SessionState& session) {
@@ -61,10 +57,13 @@ void closeLegend(SessionState& session) {
 }  // namespace
 
 void execute(SessionState& session, const SetWindow& statement) {
-  switch (specialWindowOf(statement.window, session)) {
-    case 0:
-      setMapWindow(session, session.windowOrFront(statement.window.id), statement);
-      return;
+  const std::optional<int> special = specialWindowOf(statement.window, session);
+  if (!special) {
+    const std::int32_t id = session.integer(statement.window.id);
+    if (!session.isPassedOver(id)) setMapWindow(session, session.window(id), statement);
+    return;
+  }
+  switch (*special) {
     case kLegendWindow:
       setLegendWindow(session, statement);
       return;
@@ -77,15 +76,20 @@ void execute(SessionState& session, const SetWindow& statement) {
 }
 
 void execute(SessionState& session, const OpenWindow& statement) {
-  if (specialWindowOf(statement.window, session) == kLegendWindow) openLegend(session);
+  const std::optional<int> special = specialWindowOf(statement.window, session);
+  if (special == kLegendWindow) openLegend(session);
+  if (special == kRulerWindow) session.rulerOpen = true;
 }
 
 void execute(SessionState& session, const CloseWindow& statement) {
-  const int special = specialWindowOf(statement.window, session);
-  if (special == 0) {
-    session.closeWindow(session.windowOrFront(statement.window.id));
+  const std::optional<int> special = specialWindowOf(statement.window, session);
+  if (!special) {
+    const std::int32_t id = session.integer(statement.window.id);
+    session.isPassedOver(id) ? session.closePassedOver(id) : session.closeWindow(session.window(id));
   } else if (special == kLegendWindow) {
     closeLegend(session);
+  } else if (special == kRulerWindow) {
+    session.rulerOpen = false;
   }
 }
 
@@ -108,6 +112,7 @@ void execute(SessionState& session, const CreateLegend& statement) {
 // A cartographic legend is a document of its own, which only print layouts use.
 void execute(SessionState& session, const CreateCartographicLegend& statement) {
   [[maybe_unused]] const MapWindow& window = session.windowOrFront(statement.window);
+  session.passOverDocument();
 }
 
 }  // namespace motor

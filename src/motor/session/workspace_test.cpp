@@ -1,4 +1,5 @@
 #include "motor/session/session_fixture.h"
+#include "motor/session/table_files.h"
 
 namespace motor {
 namespace {
@@ -41,7 +42,7 @@ TEST_F(WorkspaceTest, isFoundWithoutRegardToCase) {
 
 TEST_F(WorkspaceTest, failsWithoutATableAndSaysWhich) {
   write("a.wor", "Open Table \"Falta\" As Falta Interactive\n");
-  EXPECT_EQ(rejectedWorkspace("a.wor"), "a.wor: «Falta»: no se encuentra el archivo");
+  EXPECT_EQ(rejectedWorkspace("a.wor"), "a.wor: línea 4, columna 1: «Open»: «Falta»: no se encuentra el archivo");
 }
 
 TEST_F(WorkspaceTest, isParsedBeforeItRuns) {
@@ -80,12 +81,47 @@ TEST_F(WorkspaceTest, readsRelativePathsFromTheRoots) {
 TEST_F(WorkspaceTest, readsNothingOutsideTheRoots) {
   const std::string outside = (study().path() / "2001" / "Provincias2001.mif").string();
   write("a.wor", "Open Table \"" + outside + "\"\n");
-  EXPECT_EQ(rejectedWorkspace("a.wor"), "a.wor: «" + outside + "»: está fuera de las carpetas que se pueden leer");
+  EXPECT_EQ(rejectedWorkspace("a.wor"),
+            "a.wor: línea 4, columna 1: «Open»: «" + outside + "»: está fuera de las carpetas que se pueden leer");
   std::filesystem::create_symlink(outside, folder_.path() / "enlace.mif");
   write("b.wor", "Open Table \"enlace\"\n");
   EXPECT_NE(rejectedWorkspace("b.wor").find("fuera"), std::string::npos);
   write("c.wor", "Run Application \"" + (study().path() / "2001" / "Año2001.wor").string() + "\"\n");
   EXPECT_NE(rejectedWorkspace("c.wor").find("fuera"), std::string::npos);
+}
+
+TEST_F(WorkspaceTest, mayGoUpAsFarAsTheRoots) {
+  writeTable("tablas/T");
+  write("sub/a.wor", "Open Table \"..\\tablas\\T\"\n");
+  EXPECT_EQ(rejectedWorkspace("sub/a.wor"), "accepted");
+  const std::string study = SessionTest::study().path().filename().string();
+  write("b.wor", "Open Table \"..\\" + study + "\\2001\\Provincias2001\"\n");
+  EXPECT_NE(rejectedWorkspace("b.wor").find("está fuera"), std::string::npos);
+  write("sub/c.wor", "Open Table \"..\\aux\"\n");
+  EXPECT_NE(rejectedWorkspace("sub/c.wor").find("ruta no permitida"), std::string::npos);
+}
+
+// A view names the tables that it is made of, which may lie anywhere.
+TEST_F(WorkspaceTest, readsNoPartsOutsideTheRoots) {
+  const auto writeView = [&](const std::string& name, const std::string& behind) {
+    tiny::writeLatin(folder_.path() / name, "!table\n!version 100\nOpen Table \"" + behind +
+                                                "\" Hide\nCreate View V As Select Nombre From " + behind + "\n");
+  };
+  writeView("fuera.tab", "..\\" + study().path().filename().string() + "\\2001\\Provincias2001");
+  write("a.wor", "Open Table \"fuera\"\n");
+  EXPECT_NE(rejectedWorkspace("a.wor").find("«Provincias2001.tab» está fuera de las carpetas"), std::string::npos);
+  writeView("dentro.tab", "Nada");
+  write("b.wor", "Open Table \"dentro\"\n");
+  EXPECT_EQ(rejectedWorkspace("b.wor").find("está fuera"), std::string::npos);
+}
+
+TEST(TableFilesTest, aWorkspaceOfAnApplicationMayReadAllOfIt) {
+  using Paths = std::vector<std::filesystem::path>;
+  EXPECT_EQ(rootsOf("/app/Tablas/1999/x.wor"), (Paths{"/app/Tablas/1999", "/app"}));
+  EXPECT_EQ(rootsOf("/app/TABLAS/x.wor"), (Paths{"/app/TABLAS", "/app"}));
+  EXPECT_EQ(rootsOf("/app/Tablas/a/../b/x.wor"), (Paths{"/app/Tablas/b", "/app"}));
+  EXPECT_EQ(rootsOf("/app/mapas/x.wor"), (Paths{"/app/mapas"}));
+  EXPECT_EQ(rootsOf("x.wor"), (Paths{std::filesystem::current_path()}));
 }
 
 TEST_F(WorkspaceTest, runsOthersButNotItselfForEver) {

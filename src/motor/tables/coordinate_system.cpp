@@ -95,7 +95,8 @@ class DefinitionCache {
   }
 };
 
-// Every session begins with this system, so it is written down here: to ask the library for it means opening its database.
+// Every session begins with this system, so it is written down here: to ask the library for it means opening its
+// database.
 CoordinateSystem::CoordinateSystem() {
   static const DefinitionCache::DefinitionPtr longLat =
       std::make_shared<const Definition>(Definition{.wkt = kLongLatWkt,

@@ -31,6 +31,13 @@ void Cursors::open(std::string_view name, TablePtr table) {
   place(cursor, rowFrom(*cursor.table, 1, true));
 }
 
+void Cursors::openBeside(std::string_view name, std::string_view other) {
+  const Cursor there = find(other);
+  cursors_[text::lower(name)] = there;
+}
+
+void Cursors::replace(std::string_view name, TablePtr table) { find(name).table = std::move(table); }
+
 void Cursors::close(std::string_view name) { cursors_.erase(text::lower(name)); }
 
 void Cursors::fetch(std::string_view name, Fetch::Target target, double record) {

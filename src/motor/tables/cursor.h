@@ -22,6 +22,10 @@ class Cursors {
   // A table was opened or a name has got another table: its first row becomes the current one. With a result the first
   // tables behind it move along, here and at every fetch, as long as they are open under the names they had.
   void open(std::string_view name, TablePtr table);
+  // Another name for a table that is open: it stands where the table stands under that name, and nothing moves.
+  void openBeside(std::string_view name, std::string_view other);
+  // A name has got another table with the same rows: it stays on its row, and nothing moves.
+  void replace(std::string_view name, TablePtr table);
   void close(std::string_view name);
 
   // Moves to a row; deleted rows are skipped. Beyond the first or last row there is no current row any more. `record`

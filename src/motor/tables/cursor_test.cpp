@@ -92,6 +92,24 @@ TEST_F(CursorsTest, ofAnEmptyResultAreAtTheEnd) {
   EXPECT_EQ(cursors_.row("tabla"), 1U);
 }
 
+TEST_F(CursorsTest, underAnotherNameMoveNothing) {
+  select("select a from tabla order by a desc");
+  cursors_.fetch("selection", Fetch::Target::next);
+  cursors_.openBeside("Query1", "Selection");
+  EXPECT_EQ(cursors_.row("query1"), 2U);
+  EXPECT_EQ(cursors_.row("selection"), 2U);
+  EXPECT_EQ(cursors_.row("tabla"), 3U);
+  EXPECT_THROW(cursors_.openBeside("otra", "nada"), EngineError);
+}
+
+TEST_F(CursorsTest, stayWhereTheyAreInAnotherTable) {
+  cursors_.fetch("tabla", Fetch::Target::last);
+  const TablePtr other = TableBuilder({"b"}).row({1}).row({2}).row({3}).row({4}).row({5}).build();
+  cursors_.replace("TABLA", other);
+  EXPECT_EQ(cursors_.row("tabla"), 4U);
+  EXPECT_EQ(cursors_.at("tabla").table, other);
+}
+
 TEST_F(CursorsTest, outliveTheTableBehind) {
   select("select a from tabla");
   cursors_.close("Tabla");

@@ -22,4 +22,8 @@ void failDamaged(const std::filesystem::path& file) {
   throw EngineError("La tabla " + quotedName(file) + " está dañada o incompleta y no se puede leer");
 }
 
+void failForbidden(const std::filesystem::path& file) {
+  throw EngineError("La tabla " + quotedName(file) + " está fuera de las carpetas que se pueden leer");
+}
+
 }  // namespace motor

@@ -36,6 +36,7 @@ const Box& ResultTable::bounds() const {
 
 RowId ResultTable::baseRowCount() const {
   std::vector<RowId> rows = contents_.rows.front();
+  std::erase_if(rows, [this](RowId row) { return base().table->isDeleted(row); });
   std::sort(rows.begin(), rows.end());
   return static_cast<RowId>(std::unique(rows.begin(), rows.end()) - rows.begin());
 }

@@ -51,7 +51,8 @@ class ResultTable final : public Table {
   [[nodiscard]] const ResultSource& base() const { return contents_.sources.front(); }
   // The row of a source behind a row of the result.
   [[nodiscard]] RowId sourceRow(RowId row, std::size_t source = 0) const { return contents_.rows[source][row - 1]; }
-  // How many different rows of the base the result holds (a join may hold one several times).
+  // How many different rows of the base the result holds (a join may hold one several times; the figures of an
+  // aggregate over no rows have none behind them).
   [[nodiscard]] RowId baseRowCount() const;
   [[nodiscard]] const ResultContents& contents() const { return contents_; }
 

@@ -1,9 +1,11 @@
 #include "motor/tables/seamless_parts.h"
 
+#include <cpl_string.h>
 #include <cpl_vsi.h>
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
 
+#include <algorithm>
 #include <atomic>
 #include <fstream>
 #include <iterator>
@@ -63,7 +65,37 @@ class MemoryFile {
   std::string bytes_;
 };
 
+// The tables that a view's lines `Open Table "name" Hide` speak of, which lie beside it or are named from there.
+std::vector<fs::path> viewTables(const fs::path& file) {
+  if (text::lower(utf8Of(file.extension())) != ".tab") return {};
+  std::vector<fs::path> tables;
+  std::istringstream lines(bytesOf(file));
+  std::string line;
+  while (std::getline(lines, line)) {
+    const CPLStringList words(CSLTokenizeStringComplex(line.c_str(), " \t(),;\r", TRUE, FALSE));
+    if (words.size() < 3 || !text::equalsIgnoringCase(words[0], "open") || !text::equalsIgnoringCase(words[1], "table"))
+      continue;
+    std::string name = words[2];
+    if (!text::lower(name).ends_with(".tab")) name += ".tab";
+    tables.push_back(platform::machinePath(utf8Of(file.parent_path()) + "/" + name));
+  }
+  return tables;
+}
+
 }  // namespace
+
+std::vector<fs::path> allParts(const fs::path& file) {
+  std::vector<fs::path> parts{file};
+  for (std::size_t next = 0; next < parts.size(); ++next) {
+    for (const auto& named : {seamlessParts(parts[next]), viewTables(parts[next])}) {
+      for (const fs::path& part : named) {
+        if (std::find(parts.begin(), parts.end(), part) == parts.end()) parts.push_back(part);
+      }
+    }
+  }
+  parts.erase(parts.begin());
+  return parts;
+}
 
 // The list of parts is a table like any other, whose first column names them; it is read as such from a copy in memory.
 std::vector<fs::path> seamlessParts(const fs::path& file) {

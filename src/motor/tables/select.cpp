@@ -1,6 +1,7 @@
 #include "motor/tables/select.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "motor/language/expressions/aggregate.h"
 #include "motor/tables/select_columns.h"
@@ -23,6 +24,10 @@ std::vector<SelectTable> findTables(const SelectStatement& statement, const Sele
   for (const Name& name : statement.tables) {
     SelectTable found{name.text, context.tables.find(name.text)};
     if (!found.table) throw EngineError("la tabla «" + name.text + "» no está abierta");
+    const bool isTwice = std::any_of(tables.begin(), tables.end(), [&name](const SelectTable& table) {
+      return text::equalsIgnoringCase(table.name, name.text);
+    });
+    if (isTwice) throw LanguageError(name.position, name.text, "la tabla está dos veces en From");
     found.base = dynamic_cast<const BaseTable*>(found.table.get());
     found.result = dynamic_cast<const ResultTable*>(found.table.get());
     tables.push_back(std::move(found));
@@ -44,6 +49,26 @@ bool isCount(const ExpressionPtr& expression) {
   return aggregate != nullptr && aggregate->kind() == Aggregate::Kind::count;
 }
 
+// The columns of a table over a single row, which has no values and counts as deleted.
+std::shared_ptr<const BaseTable> rowOfNothing(const Table& table) {
+  TableContents contents;
+  contents.columns = table.columns();
+  for (const Column& column : contents.columns) {
+    if (column.type == Column::Type::text || column.type == Column::Type::date) {
+      TextColumn texts;
+      texts.appendAbsent();
+      contents.data.emplace_back(std::move(texts));
+    } else {
+      contents.data.emplace_back(std::vector<double>{std::nan("")});
+    }
+  }
+  contents.deleted = {true};
+  contents.objects = ObjectSet({}, {ObjectSet::kNone});
+  contents.hasObjects = table.hasObjects();
+  contents.coordinateSystem = table.coordinateSystem();
+  return std::make_shared<const BaseTable>(std::move(contents));
+}
+
 // One Select from its tables to its result.
 class Selection {
  public:
@@ -54,17 +79,35 @@ class Selection {
         columns_(outputColumns(statement, scope_)) {}
 
   ResultPtr run() {
+    check();
     rows_ = joinRows(scope_, statement_.where.get(), statement_.position);
     const bool aggregates = std::any_of(columns_.begin(), columns_.end(), [](const OutputColumn& output) {
-      return output.expression && hasAggregate(*output.expression);
+      return output.expression && aggregateIn(*output.expression) != nullptr;
     });
-    if (aggregates || !statement_.groupBy.empty()) group(aggregates);
+    if (aggregates && statement_.groupBy.empty() && count() == 0) {
+      groupNothing();
+    } else if (aggregates || !statement_.groupBy.empty()) {
+      group(aggregates);
+    }
     compute();
     sort();
     return std::make_shared<const ResultTable>(contents());
   }
 
  private:
+  // What means nothing is told also where there is no row to evaluate it for.
+  void check() const {
+    for (const OutputColumn& output : columns_) {
+      if (output.expression) scope_.check(*output.expression);
+    }
+    if (statement_.where) {
+      if (const Aggregate* aggregate = aggregateIn(*statement_.where)) static_cast<void>(aggregate->evaluate(scope_));
+      scope_.check(*statement_.where);
+    }
+    for (const SelectKey& key : statement_.groupBy) static_cast<void>(keyColumn(key, columns_, scope_));
+    for (const SelectKey& key : statement_.orderBy) static_cast<void>(keyColumn(key, columns_, scope_));
+  }
+
   [[nodiscard]] std::size_t count() const { return rows_.front().size(); }
 
   [[nodiscard]] RowTuple tuple(std::size_t index) const {
@@ -91,7 +134,7 @@ class Selection {
     const OutputColumn& output = columns_[*found.output];
     if (!output.expression) return ordinalsOf(tables_[output.table], output.index, rows_[output.table], grouping);
     if (!grouping) return ordinalsOf(computed_[*found.output], false);
-    if (hasAggregate(*output.expression)) {
+    if (aggregateIn(*output.expression) != nullptr) {
       throw LanguageError(key.position, output.column.name, "no se puede agrupar por una función de grupo");
     }
     return ordinalsOf(evaluateAll(*output.expression), true);
@@ -101,6 +144,16 @@ class Selection {
     const std::vector<RowId>& rows = rows_[binding.table];
     if (binding.kind == RowBinding::Kind::rowId) return {rows.begin(), rows.end()};
     return ordinalsOf(tables_[binding.table], binding.column, rows, grouping);
+  }
+
+  // Figures over no rows are one row all the same, with nothing behind it.
+  void groupNothing() {
+    for (SelectTable& table : tables_) {
+      const auto nothing = rowOfNothing(*table.table);
+      table = {table.name, nothing, nothing.get(), nullptr};
+    }
+    for (std::vector<RowId>& rows : rows_) rows = {1};
+    members_.resize(1);
   }
 
   // Leaves one row of each group, the first, in the order of the keys.

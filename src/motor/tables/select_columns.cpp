@@ -82,10 +82,12 @@ std::vector<OutputColumn> outputColumns(const SelectStatement& statement, const 
   return columns;
 }
 
-bool hasAggregate(const Expression& expression) {
-  if (dynamic_cast<const Aggregate*>(&expression) != nullptr) return true;
-  const auto children = expression.children();
-  return std::any_of(children.begin(), children.end(), [](const Expression* child) { return hasAggregate(*child); });
+const Aggregate* aggregateIn(const Expression& expression) {
+  if (const auto* aggregate = dynamic_cast<const Aggregate*>(&expression)) return aggregate;
+  for (const Expression* child : expression.children()) {
+    if (const Aggregate* aggregate = aggregateIn(*child)) return aggregate;
+  }
+  return nullptr;
 }
 
 KeyColumn keyColumn(const SelectKey& key, const std::vector<OutputColumn>& columns, const SelectScope& scope) {

@@ -20,8 +20,8 @@ struct OutputColumn {
 // The columns that a Select asks for. `obj` is not among them: a result has the objects of its rows anyway.
 [[nodiscard]] std::vector<OutputColumn> outputColumns(const SelectStatement& statement, const SelectScope& scope);
 
-// Whether an expression holds an aggregate.
-[[nodiscard]] bool hasAggregate(const Expression& expression);
+// An aggregate that an expression holds, or null.
+[[nodiscard]] const Aggregate* aggregateIn(const Expression& expression);
 
 // What a key of Group By or Order By stands for: an output column, or else a table's column or expression.
 struct KeyColumn {

@@ -40,27 +40,6 @@ Operator swapped(Operator op) {
   }
 }
 
-std::optional<SpatialRelation> spatialRelation(Operator op) {
-  switch (op) {
-    case Operator::contains:
-      return SpatialRelation::contains;
-    case Operator::containsPart:
-      return SpatialRelation::containsPart;
-    case Operator::containsEntire:
-      return SpatialRelation::containsEntire;
-    case Operator::within:
-      return SpatialRelation::within;
-    case Operator::partlyWithin:
-      return SpatialRelation::partlyWithin;
-    case Operator::entirelyWithin:
-      return SpatialRelation::entirelyWithin;
-    case Operator::intersects:
-      return SpatialRelation::intersects;
-    default:
-      return std::nullopt;
-  }
-}
-
 // The conditions of a Where that need no evaluation row by row.
 class Planner {
  public:

@@ -4,9 +4,10 @@
 #include <string>
 #include <unordered_map>
 
+#include "motor/language/comparison.h"
 #include "motor/language/expressions/operation.h"
 #include "motor/tables/select_filter.h"
-#include "motor/tables/text_column.h"
+#include "motor/tables/select_object_link.h"
 
 namespace motor {
 
@@ -20,8 +21,21 @@ using Tuples = std::vector<std::vector<RowId>>;
 std::string joinKey(const Value& value) {
   std::string key = value.number() != nullptr ? "#" : "\"";
   key += value.number() != nullptr ? value.toText() : foldedForEquality(value.toText());
-  return key;
+  return key + '\0';
 }
+
+// `a = b` between what the table that is being added gives and what earlier tables give.
+struct EqualityLink {
+  const Expression* own;
+  const Expression* others;
+};
+
+// What the conditions do when one more table comes to the tuples.
+struct Links {
+  std::vector<EqualityLink> equalities;
+  std::vector<ObjectLink> objects;
+  std::vector<const Expression*> others;  // evaluated
+};
 
 class Join {
  public:
@@ -55,91 +69,114 @@ class Join {
 
   void addTable(std::size_t table) {
     const std::vector<RowId> rows = rowsAlone(table);
-    Tuples next(table + 1);
-    if (const BinaryOperation* link = takeLink(table)) {
-      addLinked(table, rows, *link, next);
+    Links links = takeLinks(table, rows);
+    next_.assign(table + 1, {});
+    if (!links.equalities.empty()) {
+      addEqual(table, rows, links);
+    } else if (!links.objects.empty()) {
+      addRelated(table, links);
     } else {
-      addAll(rows, next);
+      for (std::size_t i = 0; i < count(); ++i) addPassing(i, table, rows, links, 0);
     }
-    tuples_ = std::move(next);
-    filterTuples(table);
+    tuples_ = std::move(next_);
   }
 
-  // A condition `a = b` between a column of the table and what earlier tables give, taken out of the others.
-  const BinaryOperation* takeLink(std::size_t table) {
+  // The conditions on this table and earlier ones, taken out of the others.
+  Links takeLinks(std::size_t table, const std::vector<RowId>& rows) {
+    const std::uint64_t known = (std::uint64_t{2} << table) - 1;
+    Links links;
+    std::erase_if(conditions_, [&](const Condition& condition) {
+      if ((condition.tables & ~known) != 0) return false;
+      if (const auto equality = equalityLink(*condition.expression, table)) {
+        links.equalities.push_back(*equality);
+      } else if (auto object = ObjectLink::of(scope_, *condition.expression, table, rows)) {
+        links.objects.push_back(std::move(*object));
+      } else {
+        links.others.push_back(condition.expression);
+      }
+      return true;
+    });
+    return links;
+  }
+
+  std::optional<EqualityLink> equalityLink(const Expression& condition, std::size_t table) const {
+    const auto* operation = dynamic_cast<const BinaryOperation*>(&condition);
+    if (operation == nullptr || operation->op() != Operator::equal) return std::nullopt;
     const std::uint64_t own = std::uint64_t{1} << table;
-    const auto isLink = [&](const Condition& condition) {
-      const auto* operation = dynamic_cast<const BinaryOperation*>(condition.expression);
-      if (operation == nullptr || operation->op() != Operator::equal) return false;
-      const std::uint64_t left = scope_.tablesOf(*operation->left());
-      const std::uint64_t right = scope_.tablesOf(*operation->right());
-      return (left == own && right != 0 && right < own) || (right == own && left != 0 && left < own);
-    };
-    const auto found = std::find_if(conditions_.begin(), conditions_.end(), isLink);
-    if (found == conditions_.end()) return nullptr;
-    const auto* link = static_cast<const BinaryOperation*>(found->expression);
-    conditions_.erase(found);
-    return link;
+    const std::uint64_t left = scope_.tablesOf(*operation->left());
+    const std::uint64_t right = scope_.tablesOf(*operation->right());
+    if (left == own && right != 0 && right < own)
+      return EqualityLink{operation->left().get(), operation->right().get()};
+    if (right == own && left != 0 && left < own) return EqualityLink{operation->right().get(), operation->left().get()};
+    return std::nullopt;
   }
 
-  void addLinked(std::size_t table, const std::vector<RowId>& rows, const BinaryOperation& link, Tuples& next) {
-    const bool ownIsLeft = scope_.tablesOf(*link.left()) == std::uint64_t{1} << table;
-    const Expression& own = ownIsLeft ? *link.left() : *link.right();
-    const Expression& others = ownIsLeft ? *link.right() : *link.left();
+  // The key of a row under all equalities; none when there is no value to compare.
+  std::optional<std::string> keyOfRow(const Links& links) const {
+    std::string key;
+    for (const EqualityLink& link : links.equalities) {
+      const Value value = link.own->evaluate(scope_);
+      if (value.isEmpty()) return std::nullopt;
+      key += joinKey(value);
+    }
+    return key;
+  }
+
+  void addEqual(std::size_t table, const std::vector<RowId>& rows, Links& links) {
     std::unordered_map<std::string, std::vector<RowId>> rowsByKey;
     for (const RowId row : rows) {
       scope_.setRow(table, row);
-      const Value value = own.evaluate(scope_);
-      if (!value.isEmpty()) rowsByKey[joinKey(value)].push_back(row);
+      if (const auto key = keyOfRow(links)) rowsByKey[*key].push_back(row);
     }
-    for (std::size_t i = 0; i < tuples_.front().size(); ++i) {
+    for (std::size_t i = 0; i < count(); ++i) {
       setTuple(i);
-      const auto matching = rowsByKey.find(joinKey(others.evaluate(scope_)));
-      if (matching == rowsByKey.end()) continue;
-      for (const RowId row : matching->second) append(next, i, row);
+      std::string key;
+      for (const EqualityLink& link : links.equalities) key += joinKey(link.others->evaluate(scope_));
+      const auto matching = rowsByKey.find(key);
+      if (matching != rowsByKey.end()) addPassing(i, table, matching->second, links, 0);
     }
   }
 
-  void addAll(const std::vector<RowId>& rows, Tuples& next) const {
-    for (std::size_t i = 0; i < tuples_.front().size(); ++i) {
-      for (const RowId row : rows) append(next, i, row);
+  // The first of the conditions between objects gives the rows, the others test them.
+  void addRelated(std::size_t table, Links& links) {
+    ObjectLink& first = links.objects.front();
+    for (std::size_t i = 0; i < count(); ++i) {
+      addPassing(i, table, first.rowsRelatedTo(tuples_[first.otherTable()][i]), links, 1);
     }
   }
 
-  void append(Tuples& next, std::size_t tuple, RowId row) const {
-    if (next.front().size() >= kMaximumTuples)
+  // Appends the tuple with each of the rows for which it passes the conditions between objects from `firstObject` on,
+  // and all the others.
+  void addPassing(std::size_t tuple, std::size_t table, const std::vector<RowId>& rows, Links& links,
+                  std::size_t firstObject) {
+    setTuple(tuple);
+    for (const RowId row : rows) {
+      const auto isRelated = [&](ObjectLink& link) { return link.holds(tuples_[link.otherTable()][tuple], row); };
+      const auto from = links.objects.begin() + static_cast<std::ptrdiff_t>(firstObject);
+      if (!std::all_of(from, links.objects.end(), isRelated)) continue;
+      scope_.setRow(table, row);
+      const auto isTrue = [this](const Expression* condition) { return holds(*condition, scope_); };
+      if (std::all_of(links.others.begin(), links.others.end(), isTrue)) append(tuple, row);
+    }
+  }
+
+  void append(std::size_t tuple, RowId row) {
+    if (next_.front().size() >= kMaximumTuples)
       throw EngineError("el resultado de la unión de tablas es demasiado grande");
-    for (std::size_t table = 0; table < tuples_.size(); ++table) next[table].push_back(tuples_[table][tuple]);
-    next.back().push_back(row);
+    for (std::size_t table = 0; table < tuples_.size(); ++table) next_[table].push_back(tuples_[table][tuple]);
+    next_.back().push_back(row);
   }
+
+  [[nodiscard]] std::size_t count() const { return tuples_.front().size(); }
 
   void setTuple(std::size_t tuple) {
     for (std::size_t table = 0; table < tuples_.size(); ++table) scope_.setRow(table, tuples_[table][tuple]);
   }
 
-  // Keeps the tuples that pass the conditions on tables up to this one.
-  void filterTuples(std::size_t table) {
-    const std::uint64_t known = (std::uint64_t{2} << table) - 1;
-    for (const Condition& condition : conditions_) {
-      if ((condition.tables & ~known) == 0) keepWhere(*condition.expression);
-    }
-    std::erase_if(conditions_, [known](const Condition& condition) { return (condition.tables & ~known) == 0; });
-  }
-
-  void keepWhere(const Expression& condition) {
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < tuples_.front().size(); ++i) {
-      setTuple(i);
-      if (!holds(condition, scope_)) continue;
-      for (std::vector<RowId>& rows : tuples_) rows[kept] = rows[i];
-      ++kept;
-    }
-    for (std::vector<RowId>& rows : tuples_) rows.resize(kept);
-  }
-
   SelectScope& scope_;
   std::vector<Condition> conditions_;
   Tuples tuples_;
+  Tuples next_;  // with one more table
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "motor/language/comparison.h"
 #include "text/collation.h"
 
 namespace motor {
@@ -64,7 +65,11 @@ Ordinals ordinalsOfTexts(const TextColumn& column, const std::vector<RowId>& row
   ordinals.reserve(rows.size());
   for (const RowId row : rows) {
     const TextColumn::Code code = column.code(row);
-    ordinals.push_back(ranks[classes != nullptr ? (*classes)[code] : code]);
+    if (code == TextColumn::kAbsent) {
+      ordinals.push_back(kNothing);
+    } else {
+      ordinals.push_back(ranks[classes != nullptr ? (*classes)[code] : code]);
+    }
   }
   return ordinals;
 }

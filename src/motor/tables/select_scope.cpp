@@ -6,6 +6,7 @@
 
 #include "motor/language/expressions/aggregate.h"
 #include "motor/language/expressions/column_by_number.h"
+#include "motor/language/expressions/set_comparison.h"
 #include "motor/tables/select_relation.h"
 #include "text/utf8.h"
 
@@ -29,6 +30,12 @@ std::optional<std::size_t> SelectScope::findTable(const std::string& name) const
   return std::nullopt;
 }
 
+std::size_t SelectScope::tableNamed(const std::string& name, Position position, const std::string& text) const {
+  const auto table = findTable(name);
+  if (!table) throw LanguageError(position, text, "la tabla «" + name + "» no está en From");
+  return *table;
+}
+
 RowBinding SelectScope::bindIn(std::size_t table, const NameReference& reference) const {
   if (const auto column = tables_[table].table->findColumn(reference.name())) {
     return {RowBinding::Kind::column, table, *column};
@@ -40,9 +47,8 @@ RowBinding SelectScope::bindIn(std::size_t table, const NameReference& reference
 
 RowBinding SelectScope::bind(const NameReference& reference) const {
   if (!reference.table().empty()) {
-    const auto table = findTable(reference.table());
-    if (!table) return {};
-    const RowBinding binding = bindIn(*table, reference);
+    const std::size_t table = tableNamed(reference.table(), reference.position(), reference.text());
+    const RowBinding binding = bindIn(table, reference);
     if (binding.kind != RowBinding::Kind::outside) return binding;
     throw LanguageError(reference.position(), reference.text(), "la tabla no tiene esa columna");
   }
@@ -66,13 +72,25 @@ std::uint64_t SelectScope::tablesOf(const Expression& expression) const {
     const RowBinding& binding = bound(*reference);
     if (binding.kind != RowBinding::Kind::outside) used |= std::uint64_t{1} << binding.table;
   } else if (const auto* byNumber = dynamic_cast<const ColumnByNumber*>(&expression)) {
-    const auto table = byNumber->table().empty() ? std::optional<std::size_t>(0) : findTable(byNumber->table());
-    if (table) used |= std::uint64_t{1} << *table;
+    const bool isBare = byNumber->table().empty();
+    used |= std::uint64_t{1} << (isBare ? 0 : tableNamed(byNumber->table(), byNumber->position(), byNumber->table()));
   } else if (dynamic_cast<const Aggregate*>(&expression) != nullptr) {
     used |= 1;
   }
   for (const Expression* child : expression.children()) used |= tablesOf(*child);
   return used;
+}
+
+void SelectScope::check(const Expression& expression) const {
+  if (const auto* reference = dynamic_cast<const NameReference*>(&expression)) {
+    const bool isOutside = bound(*reference).kind == RowBinding::Kind::outside;
+    if (isOutside && !reference->colour()) static_cast<void>(context_.session.name(*reference));
+  } else if (dynamic_cast<const ColumnByNumber*>(&expression) != nullptr) {
+    static_cast<void>(tablesOf(expression));
+  } else if (const auto* comparison = dynamic_cast<const SetComparison*>(&expression)) {
+    if (comparison->select()) static_cast<void>(values(*comparison->select()));
+  }
+  for (const Expression* child : expression.children()) check(*child);
 }
 
 void SelectScope::setGroup(const std::vector<RowTuple>* group) {
@@ -96,13 +114,12 @@ Value SelectScope::name(const NameReference& reference) const {
 }
 
 Value SelectScope::column(const std::string& table, double number, Position position) const {
-  const auto index = table.empty() ? std::optional<std::size_t>(0) : findTable(table);
-  if (!index) return context_.session.column(table, number, position);
-  const Table& source = *tables_[*index].table;
+  const std::size_t index = table.empty() ? 0 : tableNamed(table, position, table);
+  const Table& source = *tables_[index].table;
   if (!(number >= 1 && number <= static_cast<double>(source.columns().size())) || std::floor(number) != number) {
     throw LanguageError(position, "col", "la tabla no tiene esa columna");
   }
-  return source.value(rows_[*index], static_cast<std::size_t>(number) - 1);
+  return source.value(rows_[index], static_cast<std::size_t>(number) - 1);
 }
 
 Value SelectScope::call(const FunctionCall& function, std::span<const Value> arguments) const {
@@ -141,7 +158,10 @@ Value SelectScope::aggregate(const Aggregate& aggregate) const {
     least = std::min(least, number);
     greatest = std::max(greatest, number);
   }
-  rows_ = group_->front();
+  if (!group_->empty()) rows_ = group_->front();
+  if (!std::isfinite(total)) {
+    throw LanguageError(aggregate.position(), "función de grupo", "el resultado no es un número finito");
+  }
   if (greatest < least) return aggregate.kind() == Aggregate::Kind::sum ? Value(0) : Value();
   switch (aggregate.kind()) {
     case Aggregate::Kind::sum:
@@ -155,7 +175,11 @@ Value SelectScope::aggregate(const Aggregate& aggregate) const {
   }
 }
 
-const std::vector<Value>& SelectScope::values(const SelectStatement& statement) const {
+bool SelectScope::hides(const NameReference& constant) const {
+  return bound(constant).kind != RowBinding::Kind::outside || context_.session.hides(constant);
+}
+
+const ValueSet& SelectScope::values(const SelectStatement& statement) const {
   const auto known = subselects_.find(&statement);
   if (known != subselects_.end()) return known->second;
   const ResultPtr result = select(statement, context_);
@@ -163,7 +187,7 @@ const std::vector<Value>& SelectScope::values(const SelectStatement& statement) 
   std::vector<Value> values;
   values.reserve(result->rowCount());
   for (RowId row = 1; row <= result->rowCount(); ++row) values.push_back(result->value(row, 0));
-  return subselects_.emplace(&statement, std::move(values)).first->second;
+  return subselects_.emplace(&statement, ValueSet(std::move(values))).first->second;
 }
 
 ObjectPtr SelectScope::objectInSession(std::size_t table, const ObjectPtr& object) const {

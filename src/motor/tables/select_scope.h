@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "motor/language/expressions/name_reference.h"
+#include "motor/language/value_set.h"
 #include "motor/tables/base_table.h"
 #include "motor/tables/select.h"
 
@@ -37,12 +38,16 @@ class SelectScope final : public Scope {
   // The tables must outlive the scope.
   SelectScope(const std::vector<SelectTable>& tables, const SelectContext& context);
 
-  // Throws LanguageError for a column that its table does not have.
+  // Throws LanguageError for a column that its table does not have, and for one of a table that is not among these.
   [[nodiscard]] RowBinding bind(const NameReference& reference) const;
   // Whether an expression has the same value for all rows.
   [[nodiscard]] bool isConstant(const Expression& expression) const;
   // The tables whose rows an expression reads, bit i for table i.
   [[nodiscard]] std::uint64_t tablesOf(const Expression& expression) const;
+
+  // Throws LanguageError for a name of an expression that means nothing here, so that it is told for no rows too: an
+  // unknown one, or a column of a table that the Select does not read.
+  void check(const Expression& expression) const;
 
   // The rows that names refer to from now on, also one of them alone.
   void setRow(std::size_t table, RowId row) { rows_[table] = row; }
@@ -58,10 +63,13 @@ class SelectScope final : public Scope {
   [[nodiscard]] bool related(SpatialRelation relation, const ObjectPtr& left, const ObjectPtr& right,
                              Position position) const override;
   [[nodiscard]] Value aggregate(const Aggregate& aggregate) const override;
-  [[nodiscard]] const std::vector<Value>& values(const SelectStatement& select) const override;
+  [[nodiscard]] const ValueSet& values(const SelectStatement& select) const override;
+  [[nodiscard]] bool hides(const NameReference& constant) const override;
 
  private:
   [[nodiscard]] std::optional<std::size_t> findTable(const std::string& name) const;
+  // The same, of `table.column` as written in `text`; throws LanguageError when it is not among these.
+  [[nodiscard]] std::size_t tableNamed(const std::string& name, Position position, const std::string& text) const;
   [[nodiscard]] RowBinding bindIn(std::size_t table, const NameReference& reference) const;
   [[nodiscard]] const RowBinding& bound(const NameReference& reference) const;
   [[nodiscard]] ObjectPtr objectInSession(std::size_t table, const ObjectPtr& object) const;
@@ -73,7 +81,7 @@ class SelectScope final : public Scope {
   const std::vector<RowTuple>* group_ = nullptr;
   mutable std::unordered_map<const NameReference*, RowBinding> bindings_;
   mutable std::unordered_map<const MapObject*, ObjectPtr> transformed_;
-  mutable std::unordered_map<const SelectStatement*, std::vector<Value>> subselects_;
+  mutable std::unordered_map<const SelectStatement*, ValueSet> subselects_;
 };
 
 // An object with its points in another system.

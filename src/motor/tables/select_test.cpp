@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "motor/tables/testing_select.h"
 
 namespace motor {
@@ -241,6 +243,124 @@ TEST_F(SelectTest, keepsObjectsAndRows) {
   EXPECT_EQ(joined->baseRowCount(), 2U);
 }
 
+TEST_F(SelectTest, countsNothingToo) {
+  EXPECT_EQ(rows("select count(*) from unidades where valor>1000"), "0");
+  EXPECT_EQ(
+      rows("select count(*), sum(valor), max(valor), nombre, len(nombre) from unidades where 1=0 order by nombre"),
+      "0,0,,,0");
+  EXPECT_EQ(rows("select sexo, count(*) from unidades where 1=0 group by sexo"), "");
+  const ResultPtr result = session_.select("select count(*), nombre from unidades where 1=0");
+  EXPECT_EQ(result->rowCount(), 1U);
+  EXPECT_EQ(result->baseRowCount(), 0U);
+  EXPECT_FALSE(result->object(1));
+  EXPECT_TRUE(result->bounds().isEmpty());
+  session_.open("Nada", result);
+  EXPECT_EQ(rows("select * from nada order by nombre"), "0,");
+  EXPECT_EQ(rows("select count(*) from unidades, provincias where unidades.nombre=provincias.nombre and 1=0"), "0");
+}
+
+TEST_F(SelectTest, hidesColoursBehindColumns) {
+  EXPECT_EQ(rows("select red from unidades where rowid=1"), "16711680");
+  session_.open("Redes", TableBuilder({"Red"}).row({7}).build());
+  EXPECT_EQ(rows("select red+0 from redes where red<>BLUE"), "7");
+}
+
+TEST_F(SelectTest, joinsByObjects) {
+  session_.open("Puntos", TableBuilder({"id"})
+                              .row({1}, point(5, 5))
+                              .row({2}, point(15, 5))
+                              .row({3}, point(90, 90))
+                              .row({4})
+                              .row({5}, point(10, 5))
+                              .build());
+  EXPECT_EQ(rows("select id, nombre from puntos, unidades where unidades.obj contains puntos.obj and sexo=\"Mujeres\""),
+            "1,Zamora|2,Ávila|5,Zamora|5,Ávila");
+  EXPECT_EQ(rows("select id, nombre from puntos, unidades where puntos.obj within unidades.obj and sexo=\"Mujeres\""),
+            "1,Zamora|2,Ávila|5,Zamora|5,Ávila");
+  EXPECT_EQ(rows("select nombre, id from unidades, puntos where unidades.obj contains puntos.obj and id>=2 and "
+                 "tipo=\"Grandes\""),
+            "Zamora,5|Ávila,2|Ávila,5");
+  EXPECT_EQ(rows("select unidades.nombre, id from provincias, puntos, unidades where "
+                 "unidades.nombre=provincias.nombre and unidades.obj contains puntos.obj and "
+                 "unidades.valor*id < provincias.valor and sexo=\"Hombres\""),
+            "Ávila,2|Ávila,5|Zamora,1|Zamora,5");
+  EXPECT_EQ(rows("select id from puntos, unidades where unidades.obj contains puntos.obj and puntos.obj within "
+                 "unidades.obj and unidades.rowid=1"),
+            "1|5");
+}
+
+TEST_F(SelectTest, joinsByObjectsOfOtherSystems) {
+  const auto utm = CoordinateSystem::fromClause("Earth Projection 8, 104, \"m\", -3, 0, 0.9996, 500000, 0");
+  session_.open("Metros",
+                TableBuilder({"Nombre"}).row({"a"}, rectangle(499000, 4427000, 501000, 4429000)).system(utm).build());
+  session_.open("Grados", TableBuilder({"id"})
+                              .row({1}, point(-3, 40))
+                              .row({2}, point(-3.02, 40))
+                              .system(CoordinateSystem::fromClause("Earth Projection 1, 104"))
+                              .build());
+  EXPECT_EQ(rows("select id from grados, metros where metros.obj contains grados.obj"), "1");
+  EXPECT_EQ(rows("select id from metros, grados where metros.obj contains grados.obj"), "1");
+}
+
+// Tables too large to be compared row by row.
+class LargeSelectTest : public SelectTest {
+ protected:
+  static constexpr int kRows = 11'400;
+  static constexpr int kShapes = 100;
+
+  LargeSelectTest() {
+    TableBuilder units({"Nombre", "Valor"});
+    TableBuilder others({"Nombre", "Otro"});
+    std::vector<ObjectPtr> squares;
+    for (int i = 0; i < kShapes; ++i) squares.push_back(rectangle(i, 0, i + 0.9, 1));
+    for (int i = 0; i < kRows; ++i) {
+      const auto shape = static_cast<std::size_t>(i % kShapes);
+      units.row({"Ávila " + std::to_string(i), i}, squares[shape]);
+      others.row({"ÁVILA " + std::to_string(i + 1), i}, squares[shape]);
+    }
+    session_.open("Grande", units.build());
+    session_.open("Otra", others.build());
+  }
+
+  // Milliseconds; a comparison of all with all takes a hundred times as long.
+  static constexpr double kSoon = 2000;
+
+  double millisecondsOf(const std::string& statement, RowId rows) const {
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(session_.select(statement)->rowCount(), rows) << statement;
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+  }
+};
+
+TEST_F(LargeSelectTest, looksSetsUp) {
+  struct Case {
+    const char* where;
+    RowId rows;
+  };
+  const Case cases[] = {
+      {"nombre in (select nombre from otra)", kRows - 1},    {"nombre not in (select nombre from otra)", 1},
+      {"nombre = any (select nombre from otra)", kRows - 1}, {"nombre <> all (select nombre from otra)", 1},
+      {"valor+1 in (select otro from otra)", kRows - 1},     {"nombre >= all (select nombre from otra)", 1},
+      {"valor >= any (select otro from otra)", kRows},
+  };
+  for (const Case& c : cases) {
+    EXPECT_LT(millisecondsOf("select * from grande where " + std::string(c.where), c.rows), kSoon) << c.where;
+  }
+  std::string list = "\"x\"";
+  for (int i = 0; i < kRows; ++i) list += ",\"ÁVILA " + std::to_string(2 * i) + "\"";
+  EXPECT_LT(millisecondsOf("select * from grande where nombre in (" + list + ")", kRows / 2), kSoon);
+}
+
+TEST_F(LargeSelectTest, joinsWhatPasses) {
+  const std::string join = "select valor from grande, otra where ";
+  EXPECT_LT(millisecondsOf(join + "grande.nombre=otra.nombre", kRows - 1), kSoon);
+  EXPECT_LT(millisecondsOf(join + "valor>=0 and otro<100 and grande.obj contains otra.obj", kRows), kSoon);
+  EXPECT_LT(millisecondsOf(join + "grande.obj contains otra.obj and valor=otro", kRows), kSoon);
+  // More than five million pairs of objects, few of which pass.
+  EXPECT_LT(millisecondsOf(join + "otro<500 and valor<10000 and valor+otro=10398", 101), 20 * kSoon);
+  EXPECT_NE(error(join + "valor>=otro").find("demasiado grande"), std::string::npos);
+}
+
 TEST_F(SelectTest, saysWhatIsWrong) {
   struct Case {
     const char* statement;
@@ -263,6 +383,28 @@ TEST_F(SelectTest, saysWhatIsWrong) {
       {"select sum(nombre) from unidades", "línea 1, columna 12: «función de grupo»: se esperaba un número"},
       {"select sum(valor) from unidades group by 1",
        "línea 1, columna 42: «COL1»: no se puede agrupar por una función de grupo"},
+      {"select * from unidades, unidades where 1=1",
+       "línea 1, columna 25: «unidades»: la tabla está dos veces en From"},
+      {"select * from unidades, Provincias, UNIDADES where 1=1",
+       "línea 1, columna 37: «UNIDADES»: la tabla está dos veces en From"},
+      {"select * from unidades where unidades.nombre=provincias.nombre",
+       "línea 1, columna 46: «provincias.nombre»: la tabla «provincias» no está en From"},
+      {"select * from unidades where 1=0 and provincias.nombre=\"a\"",
+       "línea 1, columna 38: «provincias.nombre»: la tabla «provincias» no está en From"},
+      {"select provincias.col(1) from unidades where 1=0",
+       "línea 1, columna 8: «provincias»: la tabla «provincias» no está en From"},
+      {"select * from unidades where nombre in (select nombre from provincias where valor=unidades.valor)",
+       "línea 1, columna 83: «unidades.valor»: la tabla «unidades» no está en From"},
+      {"select * from unidades where 1=0 and nombre in (select nombre from provincias where valor=sexo)",
+       "línea 1, columna 91: «sexo»: nombre desconocido"},
+      {"select * from unidades where 1=0 and fooo=1", "línea 1, columna 38: «fooo»: nombre desconocido"},
+      {"select * from unidades where 1=0 order by fooo", "línea 1, columna 43: «fooo»: no es una columna"},
+      {"select * from unidades where 1=0 and count(*)>1",
+       "línea 1, columna 38: «función de grupo»: sólo tiene sentido entre las columnas de Select"},
+      {"select sum(valor*1e308) from unidades where valor=10",
+       "línea 1, columna 17: «*»: el resultado no es un número finito"},
+      {"select sum(valor*1.5e307) from unidades where valor=10",
+       "línea 1, columna 8: «función de grupo»: el resultado no es un número finito"},
       {"select * from unidades where count(*)>1",
        "línea 1, columna 30: «función de grupo»: sólo tiene sentido entre las columnas de Select"},
   };

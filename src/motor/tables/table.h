@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,8 +43,14 @@ class Table {
   // The box around all objects, in the table's own system.
   [[nodiscard]] virtual const Box& bounds() const = 0;
 
+  // What others have made of this table, kept for as long as it is there.
+  [[nodiscard]] std::shared_ptr<void>& companion() const { return companion_; }
+
   // The index of a column by its name (without regard to case) or as "colN"; none when there is no such column.
   [[nodiscard]] std::optional<std::size_t> findColumn(std::string_view name) const;
+
+ private:
+  mutable std::shared_ptr<void> companion_;
 };
 
 using TablePtr = std::shared_ptr<const Table>;

@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "motor/language/error.h"
+#include "motor/tables/read_failure.h"
+#include "motor/tables/seamless_parts.h"
 #include "platform/paths.h"
 
 namespace motor {
@@ -13,14 +14,19 @@ namespace fs = std::filesystem;
 // The files that make up a table besides its own.
 constexpr std::array kCompanions = {".dat", ".dbf", ".map", ".id", ".mid"};
 
-std::vector<fs::path> filesOf(const fs::path& file) {
-  std::vector<fs::path> files{file};
+void addFilesOf(const fs::path& file, std::vector<fs::path>& files) {
+  files.push_back(file);
   for (const char* extension : kCompanions) {
     const std::u8string name = fs::path(file).replace_extension(extension).u8string();
     fs::path companion = platform::machinePath(std::string(name.begin(), name.end()));
     if (companion != file) files.push_back(std::move(companion));
   }
-  return files;
+}
+
+void refuseForbidden(const std::vector<fs::path>& parts, const TableStore::MayRead& mayRead) {
+  for (const fs::path& part : parts) {
+    if (!mayRead(part)) failForbidden(part);
+  }
 }
 
 }  // namespace
@@ -30,17 +36,23 @@ TableStore& TableStore::shared() {
   return store;
 }
 
-std::shared_ptr<const BaseTable> TableStore::open(const fs::path& file) {
+std::shared_ptr<const BaseTable> TableStore::open(const fs::path& file, const MayRead& mayRead) {
   std::error_code error;
   fs::path key = fs::canonical(file, error);
   if (error) key = file;
   const std::scoped_lock lock(mutex_);
   if (const auto known = entries_.find(key); known != entries_.end()) {
-    if (stampsOf(known->second.files) == known->second.stamps) return known->second.table;
+    if (stampsOf(known->second.files) == known->second.stamps) {
+      refuseForbidden(known->second.parts, mayRead);
+      return known->second.table;
+    }
     entries_.erase(known);
   }
   Entry entry;
-  entry.files = filesOf(key);
+  entry.parts = allParts(key);
+  refuseForbidden(entry.parts, mayRead);
+  addFilesOf(key, entry.files);
+  for (const fs::path& part : entry.parts) addFilesOf(part, entry.files);
   entry.stamps = stampsOf(entry.files);
   entry.table = BaseTable::read(key);
   return entries_.emplace(std::move(key), std::move(entry)).first->second.table;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -12,14 +13,19 @@
 namespace motor {
 
 // The tables of the process, each read once and shared read-only between sessions. A file that has changed (size or
-// time, its own or that of the files beside it) is read again. A table nobody holds any more is kept for the next
-// session.
+// time, its own or that of the files beside it or of its parts) is read again. A table nobody holds any more is kept
+// for the next session.
 class TableStore {
  public:
   static TableStore& shared();
 
-  // The table in a TAB or MIF file (machine path). Throws EngineError with a clear message when it cannot be read.
-  [[nodiscard]] std::shared_ptr<const BaseTable> open(const std::filesystem::path& file);
+  // Whether a file may be read.
+  using MayRead = std::function<bool(const std::filesystem::path&)>;
+
+  // The table in a TAB or MIF file (machine path), and in the files that this one is put together from, each of which
+  // is one that `mayRead`. Throws EngineError with a clear message when it cannot be read.
+  [[nodiscard]] std::shared_ptr<const BaseTable> open(
+      const std::filesystem::path& file, const MayRead& mayRead = [](const auto&) { return true; });
 
   // Forgets everything that nobody holds.
   void clear();
@@ -32,8 +38,9 @@ class TableStore {
     bool operator==(const Stamp&) const = default;
   };
   struct Entry {
+    std::vector<std::filesystem::path> parts;  // the tables that it is put together from
+    std::vector<std::filesystem::path> files;  // its own, theirs, and those beside them
     std::vector<Stamp> stamps;
-    std::vector<std::filesystem::path> files;
     std::shared_ptr<const BaseTable> table;
   };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "motor/language/error.h"
+#include "motor/tables/seamless_parts.h"
 #include "motor/tables/testing_tables.h"
 
 namespace motor {
@@ -49,6 +50,68 @@ TEST_F(TableStoreTest, readsAChangedTableAgain) {
   EXPECT_NE(after, before);
   EXPECT_EQ(after->value(1, 0), Value("otro"));
   EXPECT_EQ(before->value(1, 0), Value("uno"));
+}
+
+class PartsTest : public testing::Test {
+ protected:
+  PartsTest() {
+    fs::create_directories(folder_.path() / "dentro");
+    writeTexts("Norte", "Nombre", {"Soria"});
+    writeTexts("dentro/Todo", "Table", {"..\\norte.tab"});
+    std::ofstream(whole_, std::ios::app) << "    \"\\IsSeamless\" = \"TRUE\"\n";
+  }
+
+  void writeTexts(const std::string& name, const char* column, const std::vector<std::string>& rows) {
+    testing_tables::writeTab(
+        folder_.path() / (name + ".tab"), nullptr,
+        [&](OGRLayer& layer) { testing_tables::addColumn(layer, column, OFTString, 20); },
+        [&](OGRLayer& layer) {
+          for (const std::string& row : rows) {
+            const OGRFeatureUniquePtr feature(OGRFeature::CreateFeature(layer.GetLayerDefn()));
+            feature->SetField(0, row.c_str());
+            testing_tables::addRow(layer, *feature);
+          }
+        });
+  }
+
+  TemporaryFolder folder_{"table_parts_test"};
+  fs::path whole_ = folder_.path() / "dentro" / "Todo.tab";
+  TableStore store_;
+};
+
+TEST_F(PartsTest, areReadOnlyWhereTheyMayBe) {
+  std::vector<fs::path> asked;
+  const auto refuse = [&](const fs::path& file) {
+    asked.push_back(fs::weakly_canonical(file));
+    return false;
+  };
+  const std::vector<fs::path> part{fs::canonical(folder_.path() / "Norte.tab")};
+  EXPECT_THROW(static_cast<void>(store_.open(whole_, refuse)), EngineError);
+  EXPECT_EQ(asked, part);
+  const auto table = store_.open(whole_);
+  EXPECT_EQ(table->value(1, 0), Value("Soria"));
+  // Another session may read less, though the table is known by now.
+  EXPECT_THROW(static_cast<void>(store_.open(whole_, refuse)), EngineError);
+  EXPECT_EQ(store_.open(whole_, [](const fs::path&) { return true; }), table);
+}
+
+TEST_F(PartsTest, areReadAgainWhenTheyChange) {
+  const auto before = store_.open(whole_);
+  for (const char* extension : {".tab", ".dat", ".map", ".id"})
+    fs::remove((folder_.path() / "Norte").replace_extension(extension));
+  writeTexts("Norte", "Nombre", {"Soria", "León"});
+  EXPECT_EQ(before->rowCount(), 1U);
+  EXPECT_EQ(store_.open(whole_)->rowCount(), 2U);
+}
+
+TEST_F(PartsTest, ofAViewAreThoseItOpens) {
+  folder_.write("Vista.tab",
+                "!table\n!version 100\nOpen Table \"Norte\" Hide\nOpen table \"dentro\\todo.TAB\" Hide\n"
+                "Create View Vista As\nSelect Nombre From Norte, Todo\n");
+  EXPECT_EQ(allParts(folder_.path() / "Vista.tab").size(), 3U);
+  std::vector<std::string> names;
+  for (const fs::path& part : allParts(folder_.path() / "Vista.tab")) names.push_back(part.filename().string());
+  EXPECT_EQ(names, (std::vector<std::string>{"Norte.tab", "Todo.tab", "Norte.tab"}));
 }
 
 TEST_F(TableStoreTest, failsForAMissingTable) {

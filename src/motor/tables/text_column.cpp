@@ -4,8 +4,8 @@
 #include <functional>
 #include <numeric>
 
+#include "motor/language/comparison.h"
 #include "text/collation.h"
-#include "text/utf8.h"
 
 namespace motor {
 namespace {
@@ -19,8 +19,6 @@ const std::string kNoText;
 const std::vector<RowId> kNoRows;
 
 }  // namespace
-
-std::string foldedForEquality(std::string_view s) { return text::lower(text::compose(withoutTrailingBlanks(s))); }
 
 void TextColumn::append(std::string_view s) {
   s = withoutTrailingBlanks(s);

@@ -11,9 +11,6 @@
 
 namespace motor {
 
-// Text as the `=` of the language compares it: case and trailing blanks do not matter, accents do.
-[[nodiscard]] std::string foldedForEquality(std::string_view text);
-
 // A column of texts, each distinct text kept once: rows hold codes, codes index the dictionary. Codes count from 0 in
 // the order of first appearance. The indexes are made when first asked for; a column is used by one thread.
 class TextColumn {

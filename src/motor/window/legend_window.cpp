@@ -1,12 +1,13 @@
 #include "motor/window/legend_window.h"
 
+#include <QCloseEvent>
 #include <QPainter>
 
 #include "motor/drawing/legend.h"
 
 namespace motor {
 
-LegendWindow::LegendWindow(const MapWindow& window, QWidget* parent) : QWidget(parent, Qt::Tool), window_(window) {
+LegendWindow::LegendWindow(MapWindow& window, QWidget* parent) : QWidget(parent, Qt::Tool), window_(window) {
   setWindowTitle(QStringLiteral("Leyenda"));
   setAccessibleName(QStringLiteral("Leyenda"));
   refresh();
@@ -21,6 +22,11 @@ void LegendWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   paintLegend(painter, window_.map(), devicePixelRatioF());
+}
+
+void LegendWindow::closeEvent(QCloseEvent* event) {
+  window_.legendClosed();
+  event->accept();
 }
 
 }  // namespace motor

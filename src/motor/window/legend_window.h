@@ -6,10 +6,10 @@
 
 namespace motor {
 
-// The legend of a map in a small window of its own.
+// The legend of a map in a small window of its own. The session hears of it when the user closes it.
 class LegendWindow : public QWidget {
  public:
-  LegendWindow(const MapWindow& window, QWidget* parent);
+  LegendWindow(MapWindow& window, QWidget* parent);
 
   [[nodiscard]] bool shows(const MapWindow& window) const { return &window_ == &window; }
   // The map or its layers have changed.
@@ -17,9 +17,10 @@ class LegendWindow : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
-  const MapWindow& window_;
+  MapWindow& window_;
 };
 
 }  // namespace motor

@@ -242,6 +242,23 @@ TEST_F(MapWindows, TheLegendHasAWindowOfItsOwn) {
   EXPECT_EQ(frame.findChild<LegendWindow*>(), nullptr);
 }
 
+TEST_F(MapWindows, TheSessionHearsOfALegendThatTheUserCloses) {
+  QWidget frame;
+  session_->run("Set Window Legend Parent " + std::to_string(handles_.handleOf(frame)));
+  session_->run("Open Window Legend");
+  auto* legend = frame.findChild<LegendWindow*>();
+  ASSERT_NE(legend, nullptr);
+  EXPECT_EQ(session_->eval("windowinfo(1009,12)").text(), std::to_string(handles_.handleOf(*legend)));
+  EXPECT_EQ(session_->eval("windowinfo(1009,11)").text(), "T");
+  legend->close();
+  EXPECT_EQ(session_->eval("windowinfo(1009,11)").text(), "F");
+  EXPECT_EQ(session_->eval("windowinfo(1009,12)").text(), "0");
+  session_->run("Open Window Legend");
+  EXPECT_TRUE(frame.findChild<LegendWindow*>()->isVisible());
+  EXPECT_EQ(session_->eval("windowinfo(1009,11)").text(), "T");
+  session_->run("Close Window Legend");
+}
+
 TEST_F(MapWindows, PrintsTheMapOnAPage) {
   const QString file = QString::fromStdString((folder_.path() / "mapa.pdf").string());
   QPrinter printer(QPrinter::HighResolution);

@@ -81,6 +81,8 @@ void QtWindows::showLegend(MapWindow& window, std::int64_t parent, int x, int y)
 
 void QtWindows::hideLegend() { delete legend_.data(); }
 
+std::int64_t QtWindows::legendHandle() { return legend_ == nullptr ? 0 : handles_.handleOf(*legend_); }
+
 bool QtWindows::command(MapWindow& window, int code) {
   switch (code) {
     case kPrint:

@@ -24,6 +24,7 @@ class QtWindows : public WindowPort {
   void maximize(MapWindow& window) override;
   void showLegend(MapWindow& window, std::int64_t parent, int x, int y) override;
   void hideLegend() override;
+  [[nodiscard]] std::int64_t legendHandle() override;
   [[nodiscard]] bool command(MapWindow& window, int code) override;
 
   // The widget of a map window, or null.

@@ -5,6 +5,7 @@
 
 #include "motor/language/comparison.h"
 #include "motor/language/like_pattern.h"
+#include "motor/language/text_limit.h"
 
 namespace motor {
 
@@ -57,14 +58,21 @@ Value calculate(double left, double right, const Expression& node, Operator op) 
       result = quotientOrRest(left, right, op);
       break;
   }
-  if (!std::isfinite(result)) reject(node, op, "el resultado no es un número");
+  if (!std::isfinite(result)) reject(node, op, "el resultado no es un número finito");
   return result;
+}
+
+Value joined(std::string left, const std::string& right, const Expression& node, Operator op) {
+  if (left.size() + right.size() > kLongestText) reject(node, op, "el texto sería demasiado largo");
+  return left += right;
 }
 
 // + joins texts too; a number beside a text is taken as its text.
 Value arithmetic(const Value& left, const Value& right, const Expression& node, Operator op) {
   const bool isText = left.text() != nullptr || right.text() != nullptr;
-  if (op == Operator::concatenate || (op == Operator::add && isText)) return left.toText() + right.toText();
+  if (op == Operator::concatenate || (op == Operator::add && isText)) {
+    return joined(left.toText(), right.toText(), node, op);
+  }
   if (left.isEmpty() || right.isEmpty()) return {};
   return calculate(numberOf(left, node, op), numberOf(right, node, op), node, op);
 }
@@ -95,6 +103,16 @@ bool compare(const Value& left, const Value& right, const Expression& node, Oper
   }
 }
 
+bool related(SpatialRelation relation, const Value& left, const Value& right, const Expression& node, Operator op,
+             const Scope& scope) {
+  const auto isObject = [](const Value& value) { return value.isEmpty() || value.object() != nullptr; };
+  if (!isObject(left) || !isObject(right)) reject(node, op, "se esperaba un objeto del mapa");
+  if (!truth(left).value_or(false) || !truth(right).value_or(false)) return false;
+  return scope.related(relation, *left.object(), *right.object(), node.position());
+}
+
+}  // namespace
+
 std::optional<SpatialRelation> spatialRelation(Operator op) {
   switch (op) {
     case Operator::contains:
@@ -115,16 +133,6 @@ std::optional<SpatialRelation> spatialRelation(Operator op) {
       return std::nullopt;
   }
 }
-
-bool related(SpatialRelation relation, const Value& left, const Value& right, const Expression& node, Operator op,
-             const Scope& scope) {
-  const auto isObject = [](const Value& value) { return value.isEmpty() || value.object() != nullptr; };
-  if (!isObject(left) || !isObject(right)) reject(node, op, "se esperaba un objeto del mapa");
-  if (!truth(left).value_or(false) || !truth(right).value_or(false)) return false;
-  return scope.related(relation, *left.object(), *right.object(), node.position());
-}
-
-}  // namespace
 
 Value UnaryOperation::evaluate(const Scope& scope) const {
   const Value value = operand_->evaluate(scope);

@@ -5,6 +5,9 @@
 
 namespace motor {
 
+// The relation between objects that an operator asks for, if it is one of those.
+[[nodiscard]] std::optional<SpatialRelation> spatialRelation(Operator op);
+
 // An operator before one operand: Not, -, +. `position` is the operator's.
 class UnaryOperation final : public Expression {
  public:

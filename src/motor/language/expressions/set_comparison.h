@@ -4,6 +4,7 @@
 
 #include "motor/language/expression.h"
 #include "motor/language/operators.h"
+#include "motor/language/value_set.h"
 
 namespace motor {
 
@@ -18,14 +19,20 @@ class SetComparison final : public Expression {
 
   [[nodiscard]] Value evaluate(const Scope& scope) const override;
   [[nodiscard]] std::vector<const Expression*> children() const override;
+  // Null for values that are written out.
+  [[nodiscard]] const std::shared_ptr<const SelectStatement>& select() const { return select_; }
 
  private:
   [[nodiscard]] bool holds(const Value& left, const Value& member) const;
+  // Whether the comparison holds with any or all of the set's values.
+  [[nodiscard]] bool holdsWith(const Value& left, const ValueSet& set) const;
+  [[noreturn]] void rejectComparison() const;
 
   Operator op_;
   Quantifier quantifier_;
   ExpressionPtr value_;
-  std::vector<ExpressionPtr> members_;
+  ValueSet constants_;                  // the members that are plain values
+  std::vector<ExpressionPtr> members_;  // the others
   std::shared_ptr<const SelectStatement> select_;
 };
 

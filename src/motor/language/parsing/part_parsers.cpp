@@ -1,20 +1,16 @@
 #include "motor/language/parsing/part_parsers.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
+
+#include "motor/language/special_windows.h"
 
 namespace motor {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kSpecialWindows = {"help",         "info",       "legend",  "mapbasic",
-                                                              "message",      "penpicker",  "ruler",   "statistics",
-                                                              "symbolpicker", "toolpicker", "toolbar", "linkinfo"};
-
 bool isSpecialWindow(const Token& token) {
-  return token.kind == Token::Kind::name &&
-         std::find(kSpecialWindows.begin(), kSpecialWindows.end(), token.folded) != kSpecialWindows.end();
+  return token.kind == Token::Kind::name && std::any_of(kSpecialWindows.begin(), kSpecialWindows.end(),
+                                                        [&](const SpecialWindow& w) { return w.name == token.folded; });
 }
 
 // A number of a coordinate system's definition, with its sign, or a unit.

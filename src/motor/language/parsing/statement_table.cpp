@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "motor/language/parsing/passed_over_parsers.h"
+
 namespace motor {
 
 namespace {
@@ -53,32 +55,42 @@ constexpr std::array kStatements = {
 };
 
 constexpr std::array kPassedOver = {
-    SkippedRule{"browse", nullptr},   SkippedRule{"layout", nullptr},        SkippedRule{"graph", nullptr},
-    SkippedRule{"create", "frame"},   SkippedRule{"set", "layout"},          SkippedRule{"set", "browse"},
-    SkippedRule{"set", "graph"},      SkippedRule{"set", "printersettings"}, SkippedRule{"set", "style"},
-    SkippedRule{"set", "resolution"}, SkippedRule{"set", "progressbars"},    SkippedRule{"set", "cartographic"},
-    SkippedRule{"set", "digitizer"},  SkippedRule{"reload", "symbols"},      SkippedRule{"print", nullptr},
+    PassedOverRule{"browse", nullptr, readBrowse},
+    PassedOverRule{"layout", nullptr, readLayout},
+    PassedOverRule{"graph", nullptr, readGraph},
+    PassedOverRule{"create", "frame", readCreateFrame},
+    PassedOverRule{"set", "layout", readSetLayout},
+    PassedOverRule{"set", "browse", readSetBrowse},
+    PassedOverRule{"set", "graph", readSetGraph},
+    PassedOverRule{"set", "printersettings", readSetPrinterSettings},
+    PassedOverRule{"set", "style", readSetStyle},
+    PassedOverRule{"set", "resolution", readSetResolution},
+    PassedOverRule{"set", "progressbars", readSetProgressBars},
+    PassedOverRule{"set", "cartographic", readSetCartographicLegend},
+    PassedOverRule{"set", "digitizer", readSetDigitizer},
+    PassedOverRule{"reload", "symbols", readReloadSymbols},
+    PassedOverRule{"print", nullptr, readPrint},
 };
 
 constexpr std::array kRefused = {
-    SkippedRule{"save", nullptr},     SkippedRule{"commit", nullptr},  SkippedRule{"rollback", nullptr},
-    SkippedRule{"insert", nullptr},   SkippedRule{"update", nullptr},  SkippedRule{"delete", nullptr},
-    SkippedRule{"drop", nullptr},     SkippedRule{"pack", nullptr},    SkippedRule{"alter", "table"},
-    SkippedRule{"alter", "object"},   SkippedRule{"alter", "map"},     SkippedRule{"create", "table"},
-    SkippedRule{"create", "index"},   SkippedRule{"create", "map"},    SkippedRule{"create", "object"},
-    SkippedRule{"create", "grid"},    SkippedRule{"rename", nullptr},  SkippedRule{"register", nullptr},
-    SkippedRule{"unlink", nullptr},   SkippedRule{"link", nullptr},    SkippedRule{"export", nullptr},
-    SkippedRule{"import", nullptr},   SkippedRule{"kill", nullptr},    SkippedRule{"open", "file"},
-    SkippedRule{"close", "file"},     SkippedRule{"put", nullptr},     SkippedRule{"write", nullptr},
-    SkippedRule{"printwin", nullptr}, SkippedRule{"run", "program"},   SkippedRule{"declare", nullptr},
-    SkippedRule{"include", nullptr},  SkippedRule{"server", nullptr},  SkippedRule{"ddeexecute", nullptr},
-    SkippedRule{"ddepoke", nullptr},  SkippedRule{"objects", nullptr}, SkippedRule{"geocode", nullptr},
+    RefusedRule{"save", nullptr},     RefusedRule{"commit", nullptr},  RefusedRule{"rollback", nullptr},
+    RefusedRule{"insert", nullptr},   RefusedRule{"update", nullptr},  RefusedRule{"delete", nullptr},
+    RefusedRule{"drop", nullptr},     RefusedRule{"pack", nullptr},    RefusedRule{"alter", "table"},
+    RefusedRule{"alter", "object"},   RefusedRule{"alter", "map"},     RefusedRule{"create", "table"},
+    RefusedRule{"create", "index"},   RefusedRule{"create", "map"},    RefusedRule{"create", "object"},
+    RefusedRule{"create", "grid"},    RefusedRule{"rename", nullptr},  RefusedRule{"register", nullptr},
+    RefusedRule{"unlink", nullptr},   RefusedRule{"link", nullptr},    RefusedRule{"export", nullptr},
+    RefusedRule{"import", nullptr},   RefusedRule{"kill", nullptr},    RefusedRule{"open", "file"},
+    RefusedRule{"close", "file"},     RefusedRule{"put", nullptr},     RefusedRule{"write", nullptr},
+    RefusedRule{"printwin", nullptr}, RefusedRule{"run", "program"},   RefusedRule{"declare", nullptr},
+    RefusedRule{"include", nullptr},  RefusedRule{"server", nullptr},  RefusedRule{"ddeexecute", nullptr},
+    RefusedRule{"ddepoke", nullptr},  RefusedRule{"objects", nullptr}, RefusedRule{"geocode", nullptr},
 };
 
 }  // namespace
 
 std::span<const StatementRule> statementRules() { return kStatements; }
-std::span<const SkippedRule> passedOverRules() { return kPassedOver; }
-std::span<const SkippedRule> refusedRules() { return kRefused; }
+std::span<const PassedOverRule> passedOverRules() { return kPassedOver; }
+std::span<const RefusedRule> refusedRules() { return kRefused; }
 
 }  // namespace motor
