@@ -42,7 +42,7 @@ ObjectPtr sampleOf(const Table& table) {
 struct Entry {
   QString name;
   MapObject::Kind kind;
-  std::optional<ObjectStyle> style;  // none for a theme's heading
+  std::optional<DrawnStyle> style;  // none for a theme's heading
 };
 
 QString nameOf(const ThemeClass& theme) {
@@ -73,7 +73,7 @@ std::vector<Entry> entriesOf(const Map& map) {
   return entries;
 }
 
-void paintSwatch(QPainter& painter, MapObject::Kind kind, const ObjectStyle& style, const QRectF& box,
+void paintSwatch(QPainter& painter, MapObject::Kind kind, const DrawnStyle& style, const QRectF& box,
                  double devicePixelRatio) {
   const QPolygonF line{QPointF(box.left(), box.bottom() - 2), QPointF(box.left() + 9, box.top() + 3),
                        QPointF(box.right() - 9, box.bottom() - 3), QPointF(box.right(), box.top() + 2)};

@@ -41,12 +41,12 @@ QPainterPath pathOf(const std::vector<QPolygonF>& rings) {
 
 }  // namespace
 
-ObjectStyle styleIn(const Layer& layer, const MapObject& object) {
+DrawnStyle styleIn(const Layer& layer, const MapObject& object) {
   if (layer.display != Display::global) return styleWith({}, object);
   return styleWith({layer.pen, layer.line, layer.brush, layer.symbol, layer.font}, object);
 }
 
-ObjectStyle styleWith(const Styles& styles, const MapObject& object) {
+DrawnStyle styleWith(const Styles& styles, const MapObject& object) {
   const bool isLine = object.kind == MapObject::Kind::polyline;
   const std::optional<Pen>& pen = isLine && styles.line ? styles.line : styles.pen;
   return {pen.value_or(object.pen), styles.brush.value_or(object.brush), styles.symbol.value_or(object.symbol),
@@ -92,7 +92,7 @@ void ShapePainter::useBrush(const Brush& brush) {
   fill_ = toQBrush(brush, devicePixelRatio_);
 }
 
-void ShapePainter::paint(const ObjectPtr& object, const ObjectStyle& style) {
+void ShapePainter::paint(const ObjectPtr& object, const DrawnStyle& style) {
   switch (object->kind) {
     case MapObject::Kind::point:
       for (const Point& p : object->points) paintSymbol(painter_, style.symbol, view_.toPixel(p));
@@ -109,7 +109,7 @@ void ShapePainter::paint(const ObjectPtr& object, const ObjectStyle& style) {
   }
 }
 
-void ShapePainter::paintRegion(const std::vector<QPolygonF>& rings, const ObjectStyle& style) {
+void ShapePainter::paintRegion(const std::vector<QPolygonF>& rings, const DrawnStyle& style) {
   usePen(style.pen);
   useBrush(style.brush);
   const bool filled = fill_.style() != Qt::NoBrush;

@@ -12,15 +12,15 @@
 namespace motor {
 
 // The style that an object is drawn with: its own, or what the layer overrides.
-struct ObjectStyle {
+struct DrawnStyle {
   Pen pen;
   Brush brush;
   Symbol symbol;
   Font font;
 };
-[[nodiscard]] ObjectStyle styleIn(const Layer& layer, const MapObject& object);
+[[nodiscard]] DrawnStyle styleIn(const Layer& layer, const MapObject& object);
 // An object's own style with what `styles` gives in its place.
-[[nodiscard]] ObjectStyle styleWith(const Styles& styles, const MapObject& object);
+[[nodiscard]] DrawnStyle styleWith(const Styles& styles, const MapObject& object);
 
 // An object's rings or lines in pixels, cut off well outside the picture where they reach far beyond it.
 [[nodiscard]] std::vector<QPolygonF> pixelParts(const MapObject& object, const SimplifiedShape& shape,
@@ -32,12 +32,12 @@ class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, double devicePixelRatio);
 
-  void paint(const ObjectPtr& object, const ObjectStyle& style);
+  void paint(const ObjectPtr& object, const DrawnStyle& style);
   // The zoom level whose shapes are painted.
   [[nodiscard]] int level() const { return level_; }
 
  private:
-  void paintRegion(const std::vector<QPolygonF>& rings, const ObjectStyle& style);
+  void paintRegion(const std::vector<QPolygonF>& rings, const DrawnStyle& style);
   void paintLines(const std::vector<QPolygonF>& lines, const Pen& pen);
   void paintText(const MapObject& object, const Font& font);
   void usePen(const Pen& pen);

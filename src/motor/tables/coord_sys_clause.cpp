@@ -72,21 +72,21 @@ class ClauseParser {
  public:
   explicit ClauseParser(const std::string& clause) : clause_(clause), words_(wordsOf(clause)) {}
 
-  CoordSysClause parse() {
+  CoordinateClause parse() {
     if (accept("coordsys") && at_ == words_.size()) fail(clause_);
-    CoordSysClause result;
+    CoordinateClause result;
     if (accept("nonearth")) {
-      result.kind = CoordSysClause::Kind::plain;
+      result.kind = CoordinateClause::Kind::plain;
       expect("units");
       result.unit = quoted();
     } else if (accept("layout")) {
-      result.kind = CoordSysClause::Kind::plain;
+      result.kind = CoordinateClause::Kind::plain;
       expect("units");
       result.unit = quoted();
     } else {
       expect("earth");
       if (accept("projection")) {
-        result.kind = CoordSysClause::Kind::earth;
+        result.kind = CoordinateClause::Kind::earth;
         result.projection = projection();
       }
     }
@@ -179,6 +179,6 @@ class ClauseParser {
 
 }  // namespace
 
-CoordSysClause parseCoordSysClause(const std::string& clause) { return ClauseParser(clause).parse(); }
+CoordinateClause parseCoordSysClause(const std::string& clause) { return ClauseParser(clause).parse(); }
 
 }  // namespace motor

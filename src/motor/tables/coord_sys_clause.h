@@ -5,7 +5,7 @@
 namespace motor {
 
 // A CoordSys clause taken apart, with its Bounds and the word CoordSys left out.
-struct CoordSysClause {
+struct CoordinateClause {
   enum class Kind { longLat, earth, plain };
 
   Kind kind = Kind::longLat;
@@ -14,6 +14,6 @@ struct CoordSysClause {
 };
 
 // Throws EngineError when the clause is not understood.
-[[nodiscard]] CoordSysClause parseCoordSysClause(const std::string& clause);
+[[nodiscard]] CoordinateClause parseCoordSysClause(const std::string& clause);
 
 }  // namespace motor

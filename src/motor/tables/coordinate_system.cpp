@@ -45,10 +45,10 @@ class DefinitionCache {
 
   static DefinitionPtr fromClause(const std::string& clause) {
     return cached("c" + clause, [&](OGRSpatialReference& system) {
-      const CoordSysClause parsed = parseCoordSysClause(clause);
+      const CoordinateClause parsed = parseCoordSysClause(clause);
       std::string text = kLongLatClause;
-      if (parsed.kind == CoordSysClause::Kind::earth) text = parsed.projection;
-      if (parsed.kind == CoordSysClause::Kind::plain) {
+      if (parsed.kind == CoordinateClause::Kind::earth) text = parsed.projection;
+      if (parsed.kind == CoordinateClause::Kind::plain) {
         static_cast<void>(metresPerDistanceUnit(parsed.unit));
         text = "NonEarth Units \"" + parsed.unit + "\"";
       }
