@@ -15,7 +15,7 @@ namespace {
 constexpr int kLight = 140;  // of 255: the grey from which on letters count as light
 constexpr int kFaint = 200;  // of 255: the opacity of a halo nobody asked for
 constexpr double kFaintWidth = 2.5;
-constexpr double kFullWidth = 3.5;
+constexpr double kFullWidth = 4;
 
 QColor haloColour(const Font& font) {
   if (hasHalo(font)) return font.back == kTransparent ? QColor(Qt::white) : toQColor(font.back);

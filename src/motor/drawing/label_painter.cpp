@@ -26,6 +26,7 @@ constexpr int kCentre = 0;
 constexpr double kPositions[][2] = {{0, 0}, {-1, -1}, {0, -1}, {1, -1}, {-1, 0}, {1, 0}, {-1, 1}, {0, 1}, {1, 1}};
 // The other places of a point's label, the best first.
 constexpr int kPointPositions[] = {3, 8, 1, 6, 5, 4, 2, 7};
+constexpr int kSignPositions[] = {7, 2};  // of a label on an object with a theme's sign: below it, above it
 
 double area(const Box& box) { return (box.maxX - box.minX) * (box.maxY - box.minY); }
 
@@ -55,6 +56,16 @@ LabelSettings settingsOf(const Layer& layer, const EditedLabel* edited) {
   settings.position = edited->position.value_or(settings.position);
   settings.offset = edited->offset.value_or(settings.offset);
   return settings;
+}
+
+// Where a label may lie, the best place first.
+std::vector<int> positionsOf(const LabelSettings& settings, bool isPoint, bool hasSign) {
+  if (hasSign) return {std::begin(kSignPositions), std::end(kSignPositions)};
+  std::vector<int> positions{std::clamp(settings.position, 0, 8)};
+  if (!isPoint) return positions;
+  if (positions.front() == kCentre) positions.front() = kPointPositions[0];
+  positions.insert(positions.end(), std::begin(kPointPositions), std::end(kPointPositions));
+  return positions;
 }
 
 Point middleOfLine(const MapObject& line) {
@@ -174,21 +185,20 @@ void LabelPainter::paintLayer(const Layer& layer, std::vector<LabelCandidate> ca
     if (candidate.edited == nullptr && !layer.label.duplicates && written.contains(text)) continue;
     const QPointF anchor = anchorOf(candidate);
     if (!view_.rect().contains(anchor)) continue;
-    if (paintLabel(settingsOf(layer, candidate.edited), object, text, anchor)) written.insert(text);
+    if (paintLabel(settingsOf(layer, candidate.edited), candidate, text, anchor)) written.insert(text);
   }
 }
 
-bool LabelPainter::paintLabel(const LabelSettings& settings, const MapObject& object, const QString& text,
+bool LabelPainter::paintLabel(const LabelSettings& settings, const LabelCandidate& candidate, const QString& text,
                               QPointF anchor) {
+  const MapObject& object = *candidate.object;
   const bool isRegion = object.kind == MapObject::Kind::region;
   const double room = isRegion ? view_.toPixels(object.bounds).width() : std::numeric_limits<double>::max();
   const HaloText label = layOut(settings.font, text, room);
   const QSizeF size = label.size();
-  std::vector<int> positions{std::clamp(settings.position, 0, 8)};
   const bool isPoint = object.kind == MapObject::Kind::point;
-  if (isPoint && positions.front() == kCentre) positions.front() = kPointPositions[0];
-  if (isPoint) positions.insert(positions.end(), std::begin(kPointPositions), std::end(kPointPositions));
-  const double gap = std::max(settings.offset * kPixelsPerPoint, isPoint ? kPointGap : 0);
+  const std::vector<int> positions = positionsOf(settings, isPoint, candidate.clearance > 0);
+  const double gap = candidate.clearance + std::max(settings.offset * kPixelsPerPoint, isPoint ? kPointGap : 0);
   for (const int position : positions) {
     const double* side = kPositions[position];
     const QPointF centre = anchor + QPointF(side[0] * (size.width() / 2 + gap), side[1] * (size.height() / 2 + gap));

@@ -36,7 +36,8 @@ struct LabelCandidate {
   ObjectPtr object;
   RowId row = 0;
   const EditedLabel* edited = nullptr;  // where it was put or changed by hand
-  std::optional<Point> anchor;          // of such a label, in the map's coordinates
+  std::optional<Point> anchor;          // where it is not the engine's own choice, in the map's coordinates
+  double clearance = 0;                 // pixels around the anchor that belong to a sign; the label goes below it
 };
 
 // Whether a layer has labels at this zoom.
@@ -50,12 +51,14 @@ class LabelPainter {
   LabelPainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, int level, LabelTexts& texts,
                LabelPoints& points);
 
+  // No label lies on these places, in pixels, but those that may overlap others.
+  void keepOff(const std::vector<QRectF>& places) { taken_.insert(taken_.end(), places.begin(), places.end()); }
   // The largest objects first.
   void paintLayer(const Layer& layer, std::vector<LabelCandidate> candidates);
 
  private:
   // Whether the label found a place.
-  bool paintLabel(const LabelSettings& settings, const MapObject& object, const QString& text, QPointF anchor);
+  bool paintLabel(const LabelSettings& settings, const LabelCandidate& candidate, const QString& text, QPointF anchor);
   [[nodiscard]] QPointF anchorOf(const LabelCandidate& candidate);
   // Where the label of a region goes in pixels: inside the part of it that is seen. Not finite when nothing is.
   [[nodiscard]] QPointF regionAnchor(const ObjectPtr& region);

@@ -3,144 +3,135 @@
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
-#include "motor/drawing/brushes.h"
+#include "motor/drawing/colours.h"
 #include "motor/drawing/fonts.h"
-#include "motor/drawing/pens.h"
-#include "motor/drawing/shape_painter.h"
-#include "motor/drawing/symbols.h"
-#include "motor/drawing/theme_styles.h"
 
 namespace motor {
 
 namespace {
 
-constexpr int kMargin = 10;
-constexpr int kSwatchWidth = 26;
-constexpr int kSwatchHeight = 14;
-constexpr int kSwatchGap = 8;
-constexpr int kLineHeight = 22;
-constexpr int kLeastWidth = 120;
-constexpr QColor kInk(40, 44, 52);
+constexpr double kMargin = 12;
+constexpr double kSwatchGap = 8;    // between swatch and text
+constexpr double kLineGap = 7;      // between two lines
+constexpr double kHeadingGap = 8;   // between titles and lines
+constexpr double kTitleGap = 2;     // between title and subtitle
+constexpr double kSectionGap = 16;  // between two themes
+constexpr double kWidestText = 340;
+constexpr int kLeastWidth = 140;
+constexpr QColor kCount(90, 98, 112);
 
-QFont legendFont() {
-  Font font;
-  font.name = "Tahoma";
-  font.size = 8.25;
-  return toQFont(font);
-}
-
-// The object that stands for a layer: the first one of its table.
-ObjectPtr sampleOf(const Table& table) {
-  for (RowId row = 1; row <= table.rowCount(); ++row) {
-    if (!table.isDeleted(row) && table.object(row)) return table.object(row);
-  }
-  return nullptr;
-}
-
-struct Entry {
-  QString name;
-  MapObject::Kind kind;
-  std::optional<DrawnStyle> style;  // none for a theme's heading
-};
-
-QString nameOf(const ThemeClass& theme) {
-  const std::string name = theme.minimum.toText() + (theme.maximum.isEmpty() ? "" : " - " + theme.maximum.toText());
-  return QString::fromStdString(name).replace('.', ',');
-}
-
-void addTheme(const Layer& layer, const MapObject& sample, std::vector<Entry>& entries) {
-  entries.push_back({QString::fromStdString(layer.name), sample.kind, std::nullopt});
-  const ThemeStyles theme(layer);
-  for (const ThemeClass& themeClass : theme.classes()) {
-    entries.push_back({nameOf(themeClass), sample.kind, styleWith(themeClass.styles, sample)});
-  }
-}
-
-std::vector<Entry> entriesOf(const Map& map) {
-  std::vector<Entry> entries;
-  for (const Layer& layer : map.layers) {
-    if (layer.display == Display::off || !layer.table) continue;
-    const ObjectPtr sample = sampleOf(*layer.table);
-    if (sample == nullptr) continue;
-    if (layer.theme) {
-      addTheme(layer, *sample, entries);
-    } else {
-      entries.push_back({QString::fromStdString(layer.name), sample->kind, styleIn(layer, *sample)});
-    }
-  }
-  return entries;
-}
-
-void paintSwatch(QPainter& painter, MapObject::Kind kind, const DrawnStyle& style, const QRectF& box,
-                 double devicePixelRatio) {
-  const QPolygonF line{QPointF(box.left(), box.bottom() - 2), QPointF(box.left() + 9, box.top() + 3),
-                       QPointF(box.right() - 9, box.bottom() - 3), QPointF(box.right(), box.top() + 2)};
-  switch (kind) {
-    case MapObject::Kind::region:
-      painter.setPen(Qt::NoPen);
-      painter.setBrush(toQBrush(style.brush, devicePixelRatio));
-      painter.drawRect(box);
-      painter.setBrush(Qt::NoBrush);
-      for (const QPen& stroke : penStrokes(style.pen)) {
-        painter.setPen(stroke);
-        painter.drawRect(box);
+// The words of a text in lines no wider than `room`; a word that is wider has a line of its own.
+QStringList wrapped(const QString& text, const QFontMetricsF& metrics, double room) {
+  QStringList lines;
+  for (const QString& paragraph : text.split('\n')) {
+    QString line;
+    for (const QString& word : paragraph.split(' ')) {
+      const QString longer = line.isEmpty() ? word : line + ' ' + word;
+      if (!line.isEmpty() && metrics.horizontalAdvance(longer) > room) {
+        lines.append(line);
+        line = word;
+      } else {
+        line = longer;
       }
-      break;
-    case MapObject::Kind::polyline:
-      painter.setBrush(Qt::NoBrush);
-      for (const QPen& stroke : penStrokes(style.pen)) {
-        painter.setPen(stroke);
-        painter.drawPolyline(line);
-      }
-      break;
-    case MapObject::Kind::point: {
-      Symbol symbol = style.symbol;
-      symbol.size = std::min(symbol.size, static_cast<int>(kSwatchHeight / kPixelsPerPoint));
-      paintSymbol(painter, symbol, box.center());
-      break;
     }
-    case MapObject::Kind::text:
-      painter.setPen(kInk);
-      painter.drawText(box, Qt::AlignCenter, QStringLiteral("Aa"));
-      break;
+    lines.append(line);
   }
+  return lines;
+}
+
+double lineHeight(const QFontMetricsF& metrics) { return metrics.ascent() + metrics.descent(); }
+
+double heightOf(const QString& text, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  return lineHeight(metrics) * static_cast<double>(wrapped(text, metrics, kWidestText).size());
 }
 
 }  // namespace
 
-QSize legendSize(const Map& map) {
-  const QFontMetricsF metrics(legendFont());
-  const std::vector<Entry> entries = entriesOf(map);
-  double text = 0;
-  for (const Entry& entry : entries) text = std::max(text, metrics.horizontalAdvance(entry.name));
-  const int width = 2 * kMargin + kSwatchWidth + kSwatchGap + static_cast<int>(std::ceil(text));
-  return {std::max(width, kLeastWidth), 2 * kMargin + kLineHeight * std::max(1, static_cast<int>(entries.size()))};
+Legend::Legend(const std::vector<LegendSection>& sections) {
+  double bottom = kMargin;
+  for (const LegendSection& section : sections) {
+    if (bottom > kMargin) bottom += kSectionGap;
+    bottom = placeHeading(section, bottom);
+    bottom = placeLines(section, bottom);
+  }
+  size_ = {std::max(static_cast<int>(std::ceil(right_ + kMargin)), kLeastWidth),
+           static_cast<int>(std::ceil(bottom + kMargin))};
 }
 
-void paintLegend(QPainter& painter, const Map& map, double devicePixelRatio) {
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setFont(legendFont());
-  const double width = legendSize(map).width();
-  double top = kMargin;
-  for (const Entry& entry : entriesOf(map)) {
-    const QRectF swatch(kMargin + 0.5, std::floor(top + (kLineHeight - kSwatchHeight) / 2.0) + 0.5, kSwatchWidth - 1,
-                        kSwatchHeight - 1);
-    if (entry.style) paintSwatch(painter, entry.kind, *entry.style, swatch, devicePixelRatio);
-    const double left = entry.style ? kMargin + kSwatchWidth + kSwatchGap : kMargin;
-    painter.setPen(kInk);
-    painter.drawText(QRectF(left, top, width - left, kLineHeight), Qt::AlignVCenter | Qt::AlignLeft, entry.name);
-    top += kLineHeight;
+double Legend::place(const QString& text, const QFont& font, const QColor& colour, QPointF corner) {
+  const QFontMetricsF metrics(font);
+  double top = corner.y();
+  for (const QString& line : wrapped(text, metrics, kWidestText)) {
+    // Whole pixels keep the letters sharp.
+    texts_.push_back({line, font, colour, {corner.x(), std::round(top + metrics.ascent())}});
+    right_ = std::max(right_, corner.x() + metrics.horizontalAdvance(line));
+    top += lineHeight(metrics);
   }
+  return top;
+}
+
+double Legend::placeHeading(const LegendSection& section, double top) {
+  double bottom = top;
+  const auto placeTitle = [&](const QString& title, const Font& font) {
+    if (title.isEmpty()) return;
+    if (bottom > top) bottom += kTitleGap;
+    bottom = place(title, toQFont(font), toQColor(font.fore), {kMargin, bottom});
+  };
+  placeTitle(section.title, section.titleFont);
+  placeTitle(section.subtitle, section.subtitleFont);
+  return bottom > top && !section.lines.empty() ? bottom + kHeadingGap : bottom;
+}
+
+void Legend::placeLine(const LegendLine& line, const Font& font, double swatchWidth, double top, double height) {
+  if (line.swatch.kind != LegendSwatch::Kind::none)
+    swatches_.push_back({line.swatch, QRectF(kMargin, top, swatchWidth, height)});
+  const QFont letters = toQFont(font);
+  const double left = kMargin + (swatchWidth > 0 ? swatchWidth + kSwatchGap : 0);
+  place(line.text, letters, toQColor(font.fore), {left, top + (height - heightOf(line.text, letters)) / 2});
+  if (!line.count) return;
+  const PlacedText last = texts_.back();
+  const QFontMetricsF metrics(letters);
+  const QString count = QStringLiteral("  (%1)").arg(*line.count);
+  const double start = last.start.x() + metrics.horizontalAdvance(last.text);
+  texts_.push_back({count, letters, kCount, {start, last.start.y()}});
+  right_ = std::max(right_, start + metrics.horizontalAdvance(count));
+}
+
+double Legend::placeLines(const LegendSection& section, double top) {
+  double swatchWidth = 0;
+  for (const LegendLine& line : section.lines) swatchWidth = std::max(swatchWidth, swatchSize(line.swatch).width());
+  double bottom = top;
+  for (const LegendLine& line : section.lines) {
+    if (bottom > top) bottom += kLineGap;
+    const double height = std::max(heightOf(line.text, toQFont(section.lineFont)), swatchSize(line.swatch).height());
+    placeLine(line, section.lineFont, swatchWidth, bottom, height);
+    bottom += height;
+  }
+  return bottom;
+}
+
+void Legend::paint(QPainter& painter, double devicePixelRatio) const {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const PlacedSwatch& placed : swatches_) paintSwatch(painter, placed.swatch, placed.box, devicePixelRatio);
+  for (const PlacedText& placed : texts_) {
+    painter.setFont(placed.font);
+    painter.setPen(placed.colour);
+    painter.drawText(placed.start, placed.text);
+  }
+  painter.restore();
 }
 
 QImage renderLegend(const Map& map, double devicePixelRatio) {
-  QImage image((QSizeF(legendSize(map)) * devicePixelRatio).toSize(), QImage::Format_RGB32);
+  Themes themes;
+  const Legend legend(legendSections(map, themes));
+  QImage image((QSizeF(legend.size()) * devicePixelRatio).toSize(), QImage::Format_RGB32);
   image.setDevicePixelRatio(devicePixelRatio);
   image.fill(Qt::white);
   QPainter painter(&image);
-  paintLegend(painter, map, devicePixelRatio);
+  legend.paint(painter, devicePixelRatio);
   return image;
 }
 

@@ -1,22 +1,54 @@
 #pragma once
 
+#include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QPainter>
 #include <QSize>
+#include <QString>
+#include <vector>
 
+#include "motor/drawing/legend_sections.h"
+#include "motor/drawing/theme.h"
 #include "motor/map/map.h"
 
 namespace motor {
 
-// The legend of a map: the layers that are displayed, from the top down, each with a swatch of its style and its name.
+// The legend of a map, laid out: `legendSections` one below the other. It is as large as its texts need; only lines of
+// more than some thirty words' width are broken.
+class Legend {
+ public:
+  explicit Legend(const std::vector<LegendSection>& sections);
 
-// How much room the legend takes in logical pixels; as much as its longest line needs.
-[[nodiscard]] QSize legendSize(const Map& map);
+  // The room it takes in logical pixels.
+  [[nodiscard]] QSize size() const { return size_; }
+  // Paints it from the painter's origin on.
+  void paint(QPainter& painter, double devicePixelRatio) const;
 
-// Paints the legend from the painter's origin on.
-void paintLegend(QPainter& painter, const Map& map, double devicePixelRatio);
+ private:
+  struct PlacedText {
+    QString text;
+    QFont font;
+    QColor colour;
+    QPointF start;  // on the baseline
+  };
+  struct PlacedSwatch {
+    LegendSwatch swatch;
+    QRectF box;
+  };
+  // Places a text from a top left corner on, broken into lines where it is too wide; gives the bottom.
+  double place(const QString& text, const QFont& font, const QColor& colour, QPointF corner);
+  double placeHeading(const LegendSection& section, double top);
+  void placeLine(const LegendLine& line, const Font& font, double swatchWidth, double top, double height);
+  double placeLines(const LegendSection& section, double top);
 
-// The legend on white.
+  std::vector<PlacedText> texts_;
+  std::vector<PlacedSwatch> swatches_;
+  double right_ = 0;
+  QSize size_;
+};
+
+// The legend of a map on white.
 [[nodiscard]] QImage renderLegend(const Map& map, double devicePixelRatio);
 
 }  // namespace motor

@@ -4,33 +4,18 @@
 
 #include "motor/drawing/map_view.h"
 #include "motor/drawing/shape_painter.h"
-#include "motor/drawing/theme_styles.h"
 #include "motor/map/projected_objects.h"
 
 namespace motor {
 
 namespace {
 
-// Pixels around the picture within which symbols and thick lines of objects outside it may still show.
-constexpr double kReach = 64;
-
-// What the picture shows with a margin, in the map's coordinates.
-Box reachOf(const MapView& view) { return view.toMap(view.rect().adjusted(-kReach, -kReach, kReach, kReach)); }
-
-// A theme draws over the objects of its base layer those that it has a style for.
-void paintTheme(ShapePainter& shapes, const Layer& layer, const ObjectSet& set, const Box& reach) {
-  const ThemeStyles theme(layer);
-  for (const std::uint32_t index : set.objectsIn(reach)) {
-    const ObjectPtr& object = set.objects()[index];
-    if (const auto styles = theme.of(set.rowsOf(index).front())) shapes.paint(object, styleWith(*styles, *object));
-  }
-}
-
-void paintLayer(ShapePainter& shapes, const Map& map, const Layer& layer, const Box& reach) {
-  if (!layer.table || !layer.isDrawnAt(map.zoomMetres)) return;
+// An object that themes above paint over is left to them.
+void paintLayer(ShapePainter& shapes, const Map& map, const Layer& layer, const Box& reach,
+                const std::vector<bool>& covered) {
   const std::shared_ptr<const ObjectSet> set = projectedObjects(layer.table, map.coordinateSystem);
-  if (layer.theme) return paintTheme(shapes, layer, *set, reach);
   for (const std::uint32_t index : set->objectsIn(reach)) {
+    if (index < covered.size() && covered[index]) continue;
     const ObjectPtr& object = set->objects()[index];
     shapes.paint(object, styleIn(layer, *object));
   }
@@ -58,6 +43,19 @@ std::vector<LabelCandidate> candidatesOf(const Map& map, const Layer& layer, con
   return candidates;
 }
 
+// Labels that lie where the engine puts them stay clear of the theme signs on their objects.
+void keepOffSigns(std::vector<LabelCandidate>& candidates, const std::shared_ptr<const ObjectSet>& set,
+                  const std::vector<double>& radii, ObjectPlaces& places) {
+  if (radii.empty()) return;
+  const std::vector<Point>& centres = places.centres(set);
+  for (LabelCandidate& candidate : candidates) {
+    const std::uint32_t index = set->indexOf(candidate.row);
+    if (candidate.edited != nullptr || index >= radii.size() || !(radii[index] > 0)) continue;
+    candidate.anchor = centres[index];
+    candidate.clearance = radii[index];
+  }
+}
+
 }  // namespace
 
 void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double devicePixelRatio, Quality quality) {
@@ -67,21 +65,37 @@ void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double de
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, quality == Quality::best);
   ShapePainter shapes(painter, view, paths_, devicePixelRatio);
-  for (auto layer = map.layers.rbegin(); layer != map.layers.rend(); ++layer) paintLayer(shapes, map, *layer, reach);
-  paintLayer(shapes, map, map.cosmetic, reach);
+  ThemePainter themes(painter, shapes, map, view, themes_, devicePixelRatio);
+  for (std::size_t i = map.layers.size(); i-- > 0;) {
+    const Layer& layer = map.layers[i];
+    if (!layer.table || !layer.isDrawnAt(map.zoomMetres)) continue;
+    if (layer.theme) {
+      themes.paint(i);
+    } else {
+      const auto set = projectedObjects(layer.table, map.coordinateSystem);
+      paintLayer(shapes, map, layer, reach, themes.coveredObjects(i, *set));
+    }
+  }
+  if (map.cosmetic.table && map.cosmetic.isDrawnAt(map.zoomMetres)) paintLayer(shapes, map, map.cosmetic, reach, {});
   if (quality == Quality::best) {
-    paintLabels(painter, map, view, shapes.level());
+    paintLabels(painter, map, view, shapes.level(), themes);
+    themes_.dropUnused();
     paths_.dropUnused();
     points_.dropUnused();
   }
   painter.restore();
 }
 
-void MapPainter::paintLabels(QPainter& painter, const Map& map, const MapView& view, int level) {
+void MapPainter::paintLabels(QPainter& painter, const Map& map, const MapView& view, int level, ThemePainter& themes) {
   const Box seen = view.toMap(view.rect());
   LabelPainter labels(painter, view, paths_, level, texts_, points_);
-  for (const Layer& layer : map.layers) {
-    if (layer.table && isLabelledAt(layer, map.zoomMetres)) labels.paintLayer(layer, candidatesOf(map, layer, seen));
+  labels.keepOff(withoutLabels_);
+  for (std::size_t i = 0; i < map.layers.size(); ++i) {
+    const Layer& layer = map.layers[i];
+    if (!layer.table || !isLabelledAt(layer, map.zoomMetres)) continue;
+    std::vector<LabelCandidate> candidates = candidatesOf(map, layer, seen);
+    keepOffSigns(candidates, projectedObjects(layer.table, map.coordinateSystem), themes.signRadii(i), themes_.places);
+    labels.paintLayer(layer, std::move(candidates));
   }
 }
 

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QPainter>
+#include <QRectF>
 #include <QSizeF>
+#include <utility>
+#include <vector>
 
 #include "motor/drawing/label_painter.h"
 #include "motor/drawing/label_texts.h"
 #include "motor/drawing/simplified_paths.h"
+#include "motor/drawing/theme_painter.h"
 #include "motor/map/map.h"
 
 namespace motor {
@@ -18,16 +22,20 @@ enum class Quality { best, fast };
 // time.
 class MapPainter {
  public:
+  // Labels keep off these places of the next pictures, in logical pixels; nothing else does.
+  void keepLabelsOff(std::vector<QRectF> places) { withoutLabels_ = std::move(places); }
   // Paints the map on a picture of `size` logical pixels, each of `devicePixelRatio` device pixels; the zoom is the
   // picture's width. The ground is left as it is.
   void paint(QPainter& painter, const Map& map, QSizeF size, double devicePixelRatio, Quality quality);
 
  private:
-  void paintLabels(QPainter& painter, const Map& map, const MapView& view, int level);
+  void paintLabels(QPainter& painter, const Map& map, const MapView& view, int level, ThemePainter& themes);
 
   SimplifiedPaths paths_;
   LabelTexts texts_;
   LabelPoints points_;
+  ThemeMemory themes_;
+  std::vector<QRectF> withoutLabels_;
 };
 
 }  // namespace motor

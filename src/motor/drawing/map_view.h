@@ -38,4 +38,11 @@ class MapView {
   QSizeF size_;
 };
 
+// What a picture shows with a margin within which symbols and thick lines of objects outside it may still show, in the
+// map's coordinates.
+[[nodiscard]] inline Box reachOf(const MapView& view) {
+  constexpr double kReach = 64;  // pixels
+  return view.toMap(view.rect().adjusted(-kReach, -kReach, kReach, kReach));
+}
+
 }  // namespace motor

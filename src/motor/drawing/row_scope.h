@@ -7,7 +7,7 @@
 namespace motor {
 
 // The columns of one row of a layer's table, and the functions that need nothing but their arguments. What it is made
-// of outlives it.
+// of outlives it. Row 0 is none: its columns have no value.
 class RowScope final : public Scope {
  public:
   RowScope(const Layer& layer, RowId row, const FunctionTable& functions)
@@ -19,6 +19,8 @@ class RowScope final : public Scope {
   [[nodiscard]] Value call(const FunctionCall& function, std::span<const Value> arguments) const override;
 
  private:
+  void requireRow(Position position, const std::string& word) const;
+
   const Layer& layer_;
   RowId row_;
   const FunctionTable& functions_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPainter>
+#include <QRectF>
 #include <QString>
 
 namespace motor {
@@ -15,7 +16,10 @@ struct ScaleBar {
 // The longest of 1, 2 or 5 times a power of ten that takes at most `mostPixels`; nothing for a scale that is no number.
 [[nodiscard]] ScaleBar scaleBarFor(double metresPerPixel, double mostPixels);
 
-// Paints a scale bar with its left end at `corner`, the baseline of the bar.
+// The light plate that a scale bar lies on, with its lower left end at `corner`; empty for a bar without length.
+[[nodiscard]] QRectF scaleBarPlate(const ScaleBar& bar, QPointF corner);
+
+// Paints a scale bar on its plate.
 void paintScaleBar(QPainter& painter, const ScaleBar& bar, QPointF corner);
 
 }  // namespace motor

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+
 namespace motor {
 namespace {
 
@@ -19,6 +21,21 @@ TEST(ScaleBar, TakesTheLongestRoundDistance) {
     EXPECT_EQ(bar.text.toStdString(), c.text);
   }
   EXPECT_EQ(scaleBarFor(0, 100).pixels, 0);
+}
+
+TEST(ScaleBar, IsReadOnALightPlateOverAnyMap) {
+  const ScaleBar bar = scaleBarFor(500, 100);
+  const QRectF plate = scaleBarPlate(bar, {8, 92});
+  EXPECT_EQ(plate.bottomLeft(), QPointF(8, 92));
+  EXPECT_GE(plate.width(), bar.pixels);
+  QImage image(160, 100, QImage::Format_RGB32);
+  image.fill(Qt::darkBlue);
+  QPainter painter(&image);
+  paintScaleBar(painter, bar, {8, 92});
+  painter.end();
+  EXPECT_GE(qGray(image.pixel(QPoint(12, 89))), 190) << "the plate";
+  EXPECT_EQ(image.pixelColor(4, 89), QColor(Qt::darkBlue)) << "the map beside it";
+  EXPECT_TRUE(scaleBarPlate(scaleBarFor(0, 100), {8, 92}).isEmpty());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "motor/drawing/symbols.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "motor/drawing/colours.h"
 #include "motor/drawing/fonts.h"
@@ -15,6 +16,8 @@ constexpr int kDisc = 34;
 constexpr int kBold = 1;
 constexpr int kBorder = 16;
 constexpr int kHalo = 256;
+constexpr QColor kSignEdge(255, 255, 255, 220);
+constexpr double kSignEdgeWidth = 1;  // pixels
 
 void paintShape(QPainter& painter, const SymbolShape& shape, const QColor& colour, double pixels) {
   const double half = pixels / 2;
@@ -59,6 +62,20 @@ void paintSymbol(QPainter& painter, const Symbol& symbol, QPointF at) {
     paintShape(painter, *shape, toQColor(symbol.colour), pixels);
   }
   painter.restore();
+}
+
+void paintSign(QPainter& painter, const Symbol& symbol, double points, QPointF at) {
+  const SymbolShape* shape = symbol.font.empty() && symbol.file.empty() ? symbolShape(symbol.shape) : nullptr;
+  if (shape == nullptr || !shape->filled) {
+    Symbol sized = symbol;
+    sized.size = std::max(1, static_cast<int>(std::lround(points)));
+    return paintSymbol(painter, sized, at);
+  }
+  const double half = points * kPixelsPerPoint / 2;
+  const QTransform place = QTransform::fromTranslate(at.x(), at.y()).rotate(-symbol.angle).scale(half, half);
+  painter.setPen(QPen(kSignEdge, kSignEdgeWidth));
+  painter.setBrush(toQColor(symbol.colour));
+  painter.drawPath(place.map(symbolPath(*shape)));
 }
 
 }  // namespace motor

@@ -10,4 +10,7 @@ namespace motor {
 // that is not installed, and a picture, are shown as a disc of the symbol's colour and size.
 void paintSymbol(QPainter& painter, const Symbol& symbol, QPointF at);
 
+// Paints a symbol at another size, in points, with a thin light edge that sets it off from symbols below it.
+void paintSign(QPainter& painter, const Symbol& symbol, double points, QPointF at);
+
 }  // namespace motor

@@ -45,7 +45,7 @@ std::optional<bool> equals(const Value& a, const Value& b) {
   if (a.object() != nullptr && b.object() != nullptr) return *a.object() == *b.object();
   const auto ordering = order(a, b);
   if (!ordering) return std::nullopt;
-  return *ordering == 0;
+  return std::is_eq(*ordering);
 }
 
 std::optional<std::weak_ordering> order(const Value& a, const Value& b) {
@@ -80,6 +80,32 @@ std::string foldedForEquality(std::string_view s) {
 std::weak_ordering orderTexts(std::string_view a, std::string_view b) {
   if (equalTexts(a, b)) return std::weak_ordering::equivalent;
   return text::collate(withoutTrailingBlanks(a), withoutTrailingBlanks(b));
+}
+
+std::optional<bool> compare(const Value& left, Operator op, const Value& right) {
+  if (op == Operator::equal || op == Operator::notEqual) {
+    const auto same = equals(left, right);
+    return same ? std::optional(*same == (op == Operator::equal)) : std::nullopt;
+  }
+  const auto ordering = order(left, right);
+  return ordering ? std::optional(satisfies(*ordering, op)) : std::nullopt;
+}
+
+bool satisfies(std::weak_ordering ordering, Operator op) {
+  switch (op) {
+    case Operator::less:
+      return std::is_lt(ordering);
+    case Operator::lessOrEqual:
+      return std::is_lteq(ordering);
+    case Operator::greater:
+      return std::is_gt(ordering);
+    case Operator::greaterOrEqual:
+      return std::is_gteq(ordering);
+    case Operator::notEqual:
+      return std::is_neq(ordering);
+    default:
+      return std::is_eq(ordering);
+  }
 }
 
 }  // namespace motor

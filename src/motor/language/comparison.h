@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "motor/language/operators.h"
 #include "motor/language/value.h"
 
 namespace motor {
@@ -28,5 +29,11 @@ namespace motor {
 
 // The order of texts under `<` and `>`: equal texts are equivalent.
 [[nodiscard]] std::weak_ordering orderTexts(std::string_view a, std::string_view b);
+
+// Whether `left op right` with an operator of = <> < <= > >=; none where the values do not compare.
+[[nodiscard]] std::optional<bool> compare(const Value& left, Operator op, const Value& right);
+
+// The same of what is in this order.
+[[nodiscard]] bool satisfies(std::weak_ordering ordering, Operator op);
 
 }  // namespace motor

@@ -20,7 +20,7 @@ TEST(ComparisonTest, comparesTextsForEquality) {
   };
   for (const Case& c : cases) {
     EXPECT_EQ(equalTexts(c.a, c.b), c.same) << c.a << " = " << c.b;
-    EXPECT_EQ(orderTexts(c.a, c.b) == 0, c.same) << c.a << " <> " << c.b;
+    EXPECT_EQ(std::is_eq(orderTexts(c.a, c.b)), c.same) << c.a << " <> " << c.b;
   }
 }
 
@@ -29,7 +29,7 @@ TEST(ComparisonTest, ordersTextsInSpanish) {
                                "Madrid", "mañana", "mapa",   "Segovia", "Zamora"};
   for (std::size_t i = 0; i < std::size(names); ++i) {
     for (std::size_t j = 0; j < std::size(names); ++j) {
-      EXPECT_EQ(orderTexts(names[i], names[j]) < 0, i < j) << names[i] << " < " << names[j];
+      EXPECT_EQ(std::is_lt(orderTexts(names[i], names[j])), i < j) << names[i] << " < " << names[j];
     }
   }
 }
@@ -50,6 +50,23 @@ TEST(ComparisonTest, comparesAcrossTypes) {
   EXPECT_EQ(order(Value(), -5), std::weak_ordering::less);
   EXPECT_EQ(order("a", Value()), std::weak_ordering::greater);
   EXPECT_EQ(order(3, "a"), std::nullopt);
+}
+
+TEST(ComparisonTest, relatesWhatIsInOrder) {
+  struct Case {
+    Operator op;
+    bool less, same, greater;
+  };
+  const Case cases[] = {
+      {Operator::equal, false, true, false},   {Operator::notEqual, true, false, true},
+      {Operator::less, true, false, false},    {Operator::lessOrEqual, true, true, false},
+      {Operator::greater, false, false, true}, {Operator::greaterOrEqual, false, true, true},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(satisfies(std::weak_ordering::less, c.op), c.less) << spelling(c.op);
+    EXPECT_EQ(satisfies(std::weak_ordering::equivalent, c.op), c.same) << spelling(c.op);
+    EXPECT_EQ(satisfies(std::weak_ordering::greater, c.op), c.greater) << spelling(c.op);
+  }
 }
 
 TEST(ComparisonTest, knowsWhatIsTrue) {

@@ -13,8 +13,8 @@ std::optional<ValueSet::Range> rangeOf(const std::vector<Value>& values) {
     const auto fromLeast = order(value, range->least);
     const auto fromGreatest = order(value, range->greatest);
     if (!fromLeast || !fromGreatest) return std::nullopt;
-    if (*fromLeast < 0) range->least = value;
-    if (*fromGreatest > 0) range->greatest = value;
+    if (std::is_lt(*fromLeast)) range->least = value;
+    if (std::is_gt(*fromGreatest)) range->greatest = value;
   }
   return range;
 }

@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "motor/language/parser.h"
+#include "text/file_text.h"
 
 namespace motor {
 namespace {
@@ -124,18 +123,12 @@ TEST(WorkspaceTest, survivesCutTexts) {
 
 #ifdef VELDORIA_SAMPLE_WORKSPACES
 
-std::string bytesOf(const std::filesystem::path& file) {
-  std::ostringstream bytes;
-  bytes << std::ifstream(file, std::ios::binary).rdbuf();
-  return bytes.str();
-}
-
 TEST(WorkspaceTest, readsSavedWorkspaces) {
   int files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(VELDORIA_SAMPLE_WORKSPACES)) {
     ++files;
     try {
-      static_cast<void>(parseWorkspace(bytesOf(entry.path())));
+      static_cast<void>(parseWorkspace(text::wholeFile(entry.path()).value()));
     } catch (const LanguageError& error) {
       ADD_FAILURE() << entry.path().filename() << ": " << error.what();
     }
@@ -145,7 +138,7 @@ TEST(WorkspaceTest, readsSavedWorkspaces) {
 
 TEST(WorkspaceTest, survivesCutSavedWorkspaces) {
   for (const auto& entry : std::filesystem::directory_iterator(VELDORIA_SAMPLE_WORKSPACES)) {
-    const std::string bytes = bytesOf(entry.path());
+    const std::string bytes = text::wholeFile(entry.path()).value();
     for (std::size_t length = 0; length < bytes.size(); length += 499) {
       try {
         static_cast<void>(parseWorkspace(bytes.substr(0, length)));

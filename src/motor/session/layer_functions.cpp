@@ -2,10 +2,10 @@
 #include <array>
 
 #include "motor/session/attributes.h"
-#include "motor/session/path_text.h"
 #include "motor/session/session_functions.h"
 #include "motor/session/session_state.h"
 #include "motor/session/style_text.h"
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -29,7 +29,7 @@ double inSessionUnits(const SessionState& session, double metres) {
 
 std::string fileOf(const SessionState& session, const Layer& layer) {
   for (const TableEntry& entry : session.tables.entries()) {
-    if (entry.table == layer.table) return textOf(entry.file);
+    if (entry.table == layer.table) return text::fromPath(entry.file);
   }
   return {};
 }

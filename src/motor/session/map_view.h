@@ -10,6 +10,10 @@ namespace motor {
 // changes.
 void showEntire(Map& map);
 void showEntire(Map& map, const Layer& layer);
+// Whether the map shows what showEntire would, give or take a pixel or so.
+[[nodiscard]] bool isShownEntire(const Map& map);
+// How wide the map is (metres on the ground) when it shows the objects of all displayed layers; 0 without objects.
+[[nodiscard]] double entireZoom(const Map& map);
 
 // How many of a paper unit ("in", "cm", "mm", "pt", "pica", ...) make an inch, without regard to case. Throws
 // EngineError for another word.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <exception>
 
+#include "motor/session/map_view.h"
 #include "motor/session/menu_commands.h"
 #include "motor/session/session_state.h"
 #include "text/number_text.h"
@@ -11,9 +12,17 @@
 namespace motor {
 namespace {
 
-// Metres; the map's width stays between a few steps and more than the whole earth.
-constexpr double kSmallestZoom = 1;
+// Between what the user's hand leaves the map's width, in metres: a house, and so many times the entire map (or, where
+// there is nothing on the map, more than the whole earth).
+constexpr double kSmallestZoom = 50;
+constexpr double kMostTimesEntire = 4;
 constexpr double kLargestZoom = 1e8;
+
+double zoomWithin(const Map& map, double wanted) {
+  const double whole = entireZoom(map);
+  const double largest = whole > 0 ? std::max(kSmallestZoom, whole * kMostTimesEntire) : kLargestZoom;
+  return std::clamp(wanted, std::min(kSmallestZoom, map.zoomMetres), std::max(largest, map.zoomMetres));
+}
 
 constexpr double kClickZoomFactor = 2;
 
@@ -80,8 +89,13 @@ void MapWindow::changed() {
 }
 
 void MapWindow::resized(int pixelWidth, int pixelHeight) {
+  bool wasEntire = false;
+  quietly([&] { wasEntire = isShownEntire(map_); });
   map_.pixelWidth = std::max(1, pixelWidth);
   map_.pixelHeight = std::max(1, pixelHeight);
+  quietly([&] {
+    if (wasEntire) showEntire(map_);
+  });
   ++revision_;
 }
 
@@ -154,7 +168,9 @@ void MapWindow::zoomedBy(double factor, Point aroundPixel) {
 
 void MapWindow::zoomBy(double factor, Point aroundPixel) {
   const Point fixed = map_.toMap(aroundPixel);
-  map_.zoomMetres = std::clamp(map_.zoomMetres * factor, kSmallestZoom, kLargestZoom);
+  const double zoom = zoomWithin(map_, map_.zoomMetres * factor);
+  if (zoom == map_.zoomMetres) return;
+  map_.zoomMetres = zoom;
   putUnder(map_, fixed, aroundPixel);
   changed();
 }

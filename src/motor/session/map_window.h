@@ -64,17 +64,19 @@ class MapWindow {
   // end of the program leaves these. A callback may close this window: nothing of it is to be used after `clicked` and
   // `menuChosen` without asking the session again. ---
 
-  // The window now has this size. The zoom, a width on the ground, stays.
+  // The window now has this size. A map that was shown entire still is; else the zoom, a width on the ground, stays.
   void resized(int pixelWidth, int pixelHeight);
   // A click with the current tool: a button of the program's own calls back with the point in the session's
   // coordinates.
   void clicked(Point pixel, bool shift, bool control);
   // The same, at a point of the session's coordinates, which the callback gets as it is.
   void clickedAt(Point inSession, bool shift, bool control);
-  void zoomedBy(double factor, Point aroundPixel);  // factor > 1 shows more; the point under the pixel stays there
-  void pannedBy(double pixelX, double pixelY);      // the map moves along with the pointer
-  void menuChosen(std::size_t entry);               // an index into shortcutMenu()
-  void legendClosed();                              // the legend's window, by its own close box
+  // Factor > 1 shows more; the point under the pixel stays there. The map's width stays between that of a house and
+  // some times the entire map; a width beyond that, which a statement set, may only come nearer.
+  void zoomedBy(double factor, Point aroundPixel);
+  void pannedBy(double pixelX, double pixelY);  // the map moves along with the pointer
+  void menuChosen(std::size_t entry);           // an index into shortcutMenu()
+  void legendClosed();                          // the legend's window, by its own close box
 
  private:
   friend class SessionState;

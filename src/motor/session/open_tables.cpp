@@ -5,7 +5,7 @@
 
 #include "motor/language/error.h"
 #include "motor/session/extended_table.h"
-#include "motor/session/path_text.h"
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -18,7 +18,7 @@ bool isSelection(std::string_view name) { return text::equalsIgnoringCase(name, 
 // A file's name as a table's: letters, digits and underscores, no digit first.
 std::string tableName(const std::filesystem::path& file) {
   std::string name;
-  for (const std::string& c : text::characters(text::compose(textOf(file.stem())))) {
+  for (const std::string& c : text::characters(text::compose(text::fromPath(file.stem())))) {
     const bool isSign = c.size() == 1 && std::isalnum(static_cast<unsigned char>(c[0])) == 0;
     name += isSign ? "_" : c;
   }

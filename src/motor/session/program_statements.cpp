@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
+#include <optional>
 #include <stdexcept>
 
 #include "motor/language/parser.h"
@@ -9,9 +8,9 @@
 #include "motor/session/coord_sys.h"
 #include "motor/session/executors.h"
 #include "motor/session/map_view.h"
-#include "motor/session/path_text.h"
 #include "motor/session/session_state.h"
 #include "platform/paths.h"
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -26,10 +25,9 @@ class WorkspaceError : public std::runtime_error {
 
 std::string contentsOf(const std::filesystem::path& file, const std::string& written) {
   std::error_code failed;
-  std::ifstream in(file, std::ios::binary);
-  if (!in || !std::filesystem::is_regular_file(file, failed))
-    throw EngineError("«" + written + "»: no se puede leer el archivo");
-  return {std::istreambuf_iterator<char>(in), {}};
+  const auto bytes = std::filesystem::is_regular_file(file, failed) ? text::wholeFile(file) : std::nullopt;
+  if (!bytes) throw EngineError("«" + written + "»: no se puede leer el archivo");
+  return *bytes;
 }
 
 // Runs a workspace; errors say in which file they are.
@@ -45,11 +43,11 @@ void runWorkspace(SessionState& session, const std::filesystem::path& file, cons
   try {
     session.run(parseWorkspace(bytes).statements);
   } catch (const WorkspaceError& e) {
-    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
+    throw WorkspaceError(text::fromPath(file.filename()) + ": " + e.what());
   } catch (const LanguageError& e) {
-    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
+    throw WorkspaceError(text::fromPath(file.filename()) + ": " + e.what());
   } catch (const EngineError& e) {
-    throw WorkspaceError(textOf(file.filename()) + ": " + e.what());
+    throw WorkspaceError(text::fromPath(file.filename()) + ": " + e.what());
   }
 }
 

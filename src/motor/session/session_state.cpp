@@ -72,9 +72,26 @@ void SessionState::closeWindow(MapWindow& window) {
     port.hideLegend();
   }
   port.closeMap(*closing);
+  placeLegend();
+}
+
+void SessionState::bringToFront(const MapWindow& window) {
+  const bool isOther = front_ != window.id();
+  front_ = window.id();
+  frontPassedOver_ = 0;
+  if (isOther) placeLegend();
+}
+
+void SessionState::placeLegend() {
+  MapWindow* front = frontWindow();
+  if (legend.open && front != nullptr) port.showLegend(*front, legend.parent, legend.x, legend.y);
 }
 
 void SessionState::closeAllWindows() {
+  if (legend.open && !windows_.empty()) {
+    legend.open = false;
+    port.hideLegend();
+  }
   while (!windows_.empty()) closeWindow(*windows_.back());
   passedOver_.clear();
   frontPassedOver_ = 0;

@@ -82,10 +82,10 @@ class SessionState {
   void closeAllWindows();
   // The map window in front; null when there is none.
   [[nodiscard]] MapWindow* frontWindow() const;
-  void bringToFront(const MapWindow& window) {
-    front_ = window.id();
-    frontPassedOver_ = 0;
-  }
+  // An open legend becomes that of the window.
+  void bringToFront(const MapWindow& window);
+  // Shows the legend, if it is open, of the map in front and where it belongs; without a map there is nothing to show.
+  void placeLegend();
   // Throws EngineError for an id that no map window has.
   [[nodiscard]] MapWindow& window(std::int32_t id) const;
   // The window of an id expression, or the front map when it was left out. Throws EngineError when there is none.

@@ -5,8 +5,8 @@
 #include <system_error>
 
 #include "motor/language/error.h"
-#include "motor/session/path_text.h"
 #include "platform/paths.h"
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -27,7 +27,7 @@ bool isDevice(const std::string& component) {
 void refuseUnsafe(const std::string& written, const std::string& path) {
   const bool network = path.starts_with("//");
   bool unsafe = network || path.find('\0') != std::string::npos;
-  for (const fs::path& part : pathOf(path)) unsafe = unsafe || isDevice(textOf(part));
+  for (const fs::path& part : text::toPath(path)) unsafe = unsafe || isDevice(text::fromPath(part));
   if (unsafe) throw EngineError("«" + written + "»: ruta no permitida");
 }
 
@@ -57,17 +57,17 @@ fs::path TableFiles::locate(const std::string& written, const std::optional<fs::
   const bool absolute = path.starts_with("/") || hasDrive(path);
   std::vector<fs::path> candidates;
   if (workspaceFolder) {
-    if (!absolute) candidates.push_back(*workspaceFolder / pathOf(path));
-    candidates.push_back(*workspaceFolder / pathOf(path.substr(path.find_last_of("/:") + 1)));
+    if (!absolute) candidates.push_back(*workspaceFolder / text::toPath(path));
+    candidates.push_back(*workspaceFolder / text::toPath(path.substr(path.find_last_of("/:") + 1)));
   }
-  if (absolute) candidates.push_back(pathOf(path));
+  if (absolute) candidates.push_back(text::toPath(path));
   for (const fs::path& root : roots_) {
-    if (!absolute) candidates.push_back(root / pathOf(path));
+    if (!absolute) candidates.push_back(root / text::toPath(path));
   }
   bool outside = false;
   for (const fs::path& candidate : candidates) {
     for (const std::string& ending : endings) {
-      const fs::path file = platform::machinePath(textOf(candidate) + ending);
+      const fs::path file = platform::machinePath(text::fromPath(candidate) + ending);
       std::error_code failed;
       if (!fs::is_regular_file(file, failed)) continue;
       const fs::path canonical = fs::canonical(file, failed);
@@ -99,7 +99,7 @@ std::vector<fs::path> rootsOf(const fs::path& workspace) {
   const fs::path own = fs::absolute(workspace).lexically_normal().parent_path();
   std::vector<fs::path> roots{own};
   for (fs::path folder = own; folder.has_relative_path(); folder = folder.parent_path()) {
-    if (!text::equalsIgnoringCase(textOf(folder.filename()), "Tablas")) continue;
+    if (!text::equalsIgnoringCase(text::fromPath(folder.filename()), "Tablas")) continue;
     roots.push_back(folder.parent_path());
     break;
   }

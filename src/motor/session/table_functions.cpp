@@ -2,9 +2,9 @@
 #include <iterator>
 
 #include "motor/session/attributes.h"
-#include "motor/session/path_text.h"
 #include "motor/session/session_functions.h"
 #include "motor/session/session_state.h"
+#include "text/file_text.h"
 
 namespace motor {
 namespace {
@@ -52,7 +52,7 @@ constexpr std::array kAttributes{
     TableAttribute{8, [](const SessionState&, const TableEntry& t) -> Value { return rows(*t.table); }},
     TableAttribute{9, [](const SessionState&, const TableEntry&) -> Value { return false; }},
     TableAttribute{10, [](const SessionState&, const TableEntry&) -> Value { return false; }},
-    TableAttribute{19, [](const SessionState&, const TableEntry& t) -> Value { return textOf(t.file); }},
+    TableAttribute{19, [](const SessionState&, const TableEntry& t) -> Value { return text::fromPath(t.file); }},
     TableAttribute{20, [](const SessionState& s, const TableEntry& t) -> Value { return bounds(s, t).minX; }},
     TableAttribute{21, [](const SessionState& s, const TableEntry& t) -> Value { return bounds(s, t).minY; }},
     TableAttribute{22, [](const SessionState& s, const TableEntry& t) -> Value { return bounds(s, t).maxX; }},

@@ -113,38 +113,41 @@ inline void writeYearTables(const std::filesystem::path& folder, const std::stri
   write("Veldoria", std::array<Unit, 1>{{{"Veldoria", "", -6, 40, 0, 43}}}, false, 3);
 }
 
+// Parts of workspaces: the first lines, the view of a map, what stands under a layer's label.
+inline const std::string kFirstLines = "!Workspace\n!Version 600\n!Charset WindowsLatin1\n";
+inline const std::string kView =
+    "Set Map\n"
+    "  CoordSys Earth Projection 1, 104\n"
+    "  Center (-3,41.5)\n"
+    "  Zoom 700 Units \"km\"\n"
+    "  Preserve Zoom Display Zoom\n"
+    "  Distance Units \"km\" Area Units \"sq km\" XY Units \"degree\"\n";
+inline const std::string kLabelParts =
+    "      With Nombre\n"
+    "      Parallel On Auto Off Overlap Off PartialSegments Off Duplicates On Offset 2\n"
+    "      Visibility On\n";
+
+inline std::string openTable(const std::string& name) {
+  return "Open Table " + inQuotes(name) + " As " + name + " Interactive\n";
+}
+
 // The workspace of a year: layer 1 the provinces, layer 2 the zones, layer 3 the region, which is not drawn.
 inline std::string yearWorkspace(const std::string& year) {
-  return "!Workspace\n!Version 600\n!Charset WindowsLatin1\n"
-         "Open Table \"Provincias" +
-         year + "\" As Provincias" + year +
-         " Interactive\n"
-         "Open Table \"ZonasBasicas" +
-         year + "\" As ZonasBasicas" + year +
-         " Interactive\n"
-         "Open Table \"Veldoria" +
-         year + "\" As Veldoria" + year +
-         " Interactive\n"
-         "Map From Provincias" +
-         year + ",ZonasBasicas" + year + ",Veldoria" + year +
+  const std::array<std::string, 3> tables{"Provincias" + year, "ZonasBasicas" + year, "Veldoria" + year};
+  std::string workspace = kFirstLines;
+  for (const std::string& table : tables) workspace += openTable(table);
+  return workspace + "Map From " + tables[0] + "," + tables[1] + "," + tables[2] +
          "\n"
          "  Position (0.0520833,0.0520833) Units \"in\"\n"
          "  Width 6.5 Units \"in\" Height 4.1 Units \"in\"\n"
-         "Set Window FrontWindow() ScrollBars Off Autoscroll On\n"
-         "Set Map\n"
-         "  CoordSys Earth Projection 1, 104\n"
-         "  Center (-3,41.5)\n"
-         "  Zoom 700 Units \"km\"\n"
-         "  Preserve Zoom Display Zoom\n"
-         "  Distance Units \"km\" Area Units \"sq km\" XY Units \"degree\"\n"
+         "Set Window FrontWindow() ScrollBars Off Autoscroll On\n" +
+         kView +
          "Set Map\n"
          "  Layer 1\n"
          "    Display Global\n"
          "    Global Pen (1,2,0) Brush (2,12632256,16777215) Symbol (35,0,12) Line (1,2,0) Font (\"Arial\",0,9,0)\n"
-         "    Label Line None Position Center Font (\"Arial\",1,8,0) Pen (1,2,0)\n"
-         "      With Nombre\n"
-         "      Parallel On Auto Off Overlap Off PartialSegments Off Duplicates On Offset 2\n"
-         "      Visibility On\n"
+         "    Label Line None Position Center Font (\"Arial\",1,8,0) Pen (1,2,0)\n" +
+         kLabelParts +
          "  Layer 2\n"
          "    Display Global\n"
          "    Global Pen (1,2,8421504) Brush (1,16777215,16777215)\n"
@@ -178,10 +181,7 @@ inline std::filesystem::path writeStatistics(const std::filesystem::path& folder
   writeTable(folder, "Estadisticas", {"Nombre Char(40)", "Tipo Char(20)", "Indicador Char(120)", "Valor Float"}, rows,
              objects);
   const std::filesystem::path file = folder / "Estadisticas.wor";
-  writeLatin(file,
-             "!Workspace\n!Version 600\n!Charset WindowsLatin1\n"
-             "Open Table \"Estadisticas\" As Estadisticas Interactive\n"
-             "Map From Estadisticas\n");
+  writeLatin(file, kFirstLines + openTable("Estadisticas") + "Map From Estadisticas\n");
   return file;
 }
 
@@ -200,47 +200,36 @@ inline std::filesystem::path writeThematic(const std::filesystem::path& folder) 
   writeTable(folder, "Tumores",
              {"Nombre Char(40)", "Indicador Char(120)", "Sexo Char(12)", "Año Char(4)", "Valor Float"}, rows, objects);
   const std::filesystem::path file = folder / "Tumores.wor";
-  writeLatin(file,
-             "!Workspace\n!Version 600\n!Charset WindowsLatin1\n"
-             "Open Table \"Tumores\" As Tumores Interactive\n"
-             "Map From Tumores\n"
-             "Set Map\n"
-             "  CoordSys Earth Projection 1, 104\n"
-             "  Center (-3,41.5)\n"
-             "  Zoom 700 Units \"km\"\n"
-             "  Preserve Zoom Display Zoom\n"
-             "  Distance Units \"km\" Area Units \"sq km\" XY Units \"degree\"\n"
-             "shade window FrontWindow() 1 with Valor\n"
-             "  ranges apply all use all Brush (2,16711680,16777215)\n"
-             "  0: 20 Brush (2,16777152,16777215) Pen (1,2,0) ,\n"
-             "  20: 40 Brush (2,16761024,16777215) Pen (1,2,0) ,\n"
-             "  40: 60 Brush (2,16711680,16777215) Pen (1,2,0)\n"
-             "  default Brush (2,16777215,16777215) Pen (1,2,0)\n"
-             "  # use 1 round 0.1 inflect off Brush (2,16776960,16777215) at 2 by 0 color 1 #\n"
-             "Set Map\n"
-             "  Layer 1\n"
-             "    Display Value\n"
-             "  Layer 2\n"
-             "    Display Graphic\n"
-             "    Label Line None Position Center Font (\"Arial\",0,9,0) Pen (1,2,0)\n"
-             "      With Nombre\n"
-             "      Parallel On Auto Off Overlap Off PartialSegments Off Duplicates On Offset 2\n"
-             "      Visibility On\n"
-             "set legend\n"
-             "  layer 1\n"
-             "    display on\n"
-             "    shades on\n"
-             "    symbols off\n"
-             "    lines off\n"
-             "    count on\n"
-             "    title \"Tumores\" Font (\"Arial\",0,9,0)\n"
-             "    subtitle auto Font (\"Arial\",0,8,0)\n"
-             "    ascending off\n"
-             "    ranges Font (\"Arial\",0,8,0)\n"
-             "      auto display off ,\n"
-             "      auto display on ,\n"
-             "      auto display on ,\n"
-             "      auto display on\n");
+  writeLatin(file, kFirstLines + openTable("Tumores") + "Map From Tumores\n" + kView +
+                       "shade window FrontWindow() 1 with Valor\n"
+                       "  ranges apply all use all Brush (2,16711680,16777215)\n"
+                       "  0: 20 Brush (2,16777152,16777215) Pen (1,2,0) ,\n"
+                       "  20: 40 Brush (2,16761024,16777215) Pen (1,2,0) ,\n"
+                       "  40: 60 Brush (2,16711680,16777215) Pen (1,2,0)\n"
+                       "  default Brush (2,16777215,16777215) Pen (1,2,0)\n"
+                       "  # use 1 round 0.1 inflect off Brush (2,16776960,16777215) at 2 by 0 color 1 #\n"
+                       "Set Map\n"
+                       "  Layer 1\n"
+                       "    Display Value\n"
+                       "  Layer 2\n"
+                       "    Display Graphic\n"
+                       "    Label Line None Position Center Font (\"Arial\",0,9,0) Pen (1,2,0)\n" +
+                       kLabelParts +
+                       "set legend\n"
+                       "  layer 1\n"
+                       "    display on\n"
+                       "    shades on\n"
+                       "    symbols off\n"
+                       "    lines off\n"
+                       "    count on\n"
+                       "    title \"Tumores\" Font (\"Arial\",0,9,0)\n"
+                       "    subtitle auto Font (\"Arial\",0,8,0)\n"
+                       "    ascending off\n"
+                       "    ranges Font (\"Arial\",0,8,0)\n"
+                       "      auto display off ,\n"
+                       "      auto display on ,\n"
+                       "      auto display on ,\n"
+                       "      auto display on\n");
   return file;
 }
 

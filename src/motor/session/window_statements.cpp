@@ -9,13 +9,6 @@
 namespace motor {
 namespace {
 
-// Shows the open legend where it belongs; without a map there is nothing to show yet.
-void placeLegend(SessionState& session) {
-  MapWindow* front = session.frontWindow();
-  if (session.legend.open && front != nullptr)
-    session.port.showLegend(*front, session.legend.parent, session.legend.x, session.legend.y);
-}
-
 std::int64_t handleOf(const ExpressionPtr& handle, const SessionState& session) {
   return std::llround(session.number(handle));
 }
@@ -29,7 +22,7 @@ void setLegendWindow(SessionState& session, const SetWindow& statement) {
     legend.y = paperPixels(at.y, placement->unit.empty() ? session.paperUnit : placement->unit);
   }
   session.legend = legend;
-  placeLegend(session);
+  session.placeLegend();
 }
 
 void setMapWindow(SessionState& session, MapWindow& window, const SetWindow& statement) {
@@ -45,7 +38,7 @@ void setMapWindow(SessionState& session, MapWindow& window, const SetWindow& sta
 
 void openLegend(SessionState& session) {
   session.legend.open = true;
-  placeLegend(session);
+  session.placeLegend();
 }
 
 void closeLegend(SessionState& session) {

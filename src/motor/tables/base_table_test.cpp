@@ -181,6 +181,17 @@ TEST_F(BaseTableTest, readsTablesWithoutObjects) {
   EXPECT_TRUE(table->objectsIn(Box{-1e9, -1e9, 1e9, 1e9}).empty());
 }
 
+TEST_F(BaseTableTest, aTableWithoutRowsHasObjectsIfItHasAFileForThem) {
+  const auto file = folder_.path() / "vacia.tab";
+  testing_tables::writeTab(
+      file, "Earth Projection 1, 104", [](OGRLayer& layer) { addColumn(layer, "N", OFTInteger); }, [](OGRLayer&) {});
+  EXPECT_EQ(BaseTable::read(file)->rowCount(), 0U);
+  EXPECT_TRUE(BaseTable::read(file)->hasObjects());
+  std::filesystem::remove(folder_.path() / "vacia.map");
+  std::filesystem::remove(folder_.path() / "vacia.id");
+  EXPECT_FALSE(BaseTable::read(file)->hasObjects());
+}
+
 TEST_F(BaseTableTest, takesUndeclaredCharsetsAsWesternEuropean) {
   const std::string head =
       "Version 300\nCharset \"Neutral\"\nDelimiter \",\"\nColumns 2\n  A\xF1o Integer\n  Nombre "

@@ -1,15 +1,14 @@
 #include "motor/tables/coordinate_system.h"
 
-#include <cpl_conv.h>
-#include <ogr_spatialref.h>
-
 #include <algorithm>
 #include <map>
 #include <mutex>
+#include <utility>
 
 #include "motor/language/error.h"
 #include "motor/tables/coord_sys_clause.h"
 #include "motor/tables/coordinate_definition.h"
+#include "motor/tables/gdal.h"
 #include "motor/tables/ogr_errors.h"
 
 namespace motor {
@@ -21,16 +20,10 @@ constexpr const char* kLongLatWkt =
     R"(GEOGCS["unnamed",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],PRIMEM["Greenwich",0],)"
     R"(UNIT["degree",0.0174532925199433,AUTHORITY["EPSG","9122"]],AXIS["Latitude",NORTH],AXIS["Longitude",EAST]])";
 
-std::string takeText(char* text) {
-  const std::string result = text == nullptr ? "" : text;
-  CPLFree(text);
-  return result;
-}
-
 // "Transverse_Mercator" as a person reads it.
-std::string nameOf(const OGRSpatialReference& system) {
-  if (system.IsGeographic() != 0) return kLongLatName;
-  const char* projection = system.GetAttrValue("PROJECTION");
+std::string nameOf(OGRSpatialReferenceH system) {
+  if (gdal().OSRIsGeographic(system) != 0) return kLongLatName;
+  const char* projection = gdal().OSRGetAttrValue(system, "PROJECTION", 0);
   std::string name = projection == nullptr ? "Non-Earth" : projection;
   std::replace(name.begin(), name.end(), '_', ' ');
   return name;
@@ -44,7 +37,7 @@ class DefinitionCache {
   using DefinitionPtr = std::shared_ptr<const CoordinateSystem::Definition>;
 
   static DefinitionPtr fromClause(const std::string& clause) {
-    return cached("c" + clause, [&](OGRSpatialReference& system) {
+    return cached("c" + clause, [&](OGRSpatialReferenceH system) {
       const CoordinateClause parsed = parseCoordSysClause(clause);
       std::string text = kLongLatClause;
       if (parsed.kind == CoordinateClause::Kind::earth) text = parsed.projection;
@@ -52,13 +45,16 @@ class DefinitionCache {
         static_cast<void>(metresPerDistanceUnit(parsed.unit));
         text = "NonEarth Units \"" + parsed.unit + "\"";
       }
-      return system.importFromMICoordSys(text.c_str());
+      return gdal().OSRImportFromMICoordSys(system, text.c_str());
     });
   }
 
   static DefinitionPtr fromWkt(const std::string& wkt) {
     if (wkt.empty()) return fromClause("NonEarth Units \"m\"");
-    return cached("w" + wkt, [&](OGRSpatialReference& system) { return system.importFromWkt(wkt.c_str()); });
+    return cached("w" + wkt, [&](OGRSpatialReferenceH system) {
+      char* text = const_cast<char*>(wkt.c_str());  // the pointer moves on, the text is only read
+      return gdal().OSRImportFromWkt(system, &text);
+    });
   }
 
  private:
@@ -69,28 +65,28 @@ class DefinitionCache {
     const std::scoped_lock lock(mutex);
     const auto found = definitions.find(text);
     if (found != definitions.end()) return found->second;
-    OGRSpatialReference system;
+    const GdalSystem system(gdal().OSRNewSpatialReference(nullptr));
     const OgrErrors quiet;
-    if (import(system) != OGRERR_NONE) {
+    if (import(system.get()) != OGRERR_NONE) {
       throw EngineError("No se entiende el sistema de coordenadas «" + text.substr(1) + "»");
     }
-    const DefinitionPtr made = define(system);
+    const DefinitionPtr made = define(system.get());
     definitions.emplace(text, made);
     return made;
   }
 
-  static std::shared_ptr<CoordinateSystem::Definition> define(const OGRSpatialReference& system) {
+  static std::shared_ptr<CoordinateSystem::Definition> define(OGRSpatialReferenceH system) {
+    const Gdal& library = gdal();
     auto made = std::make_shared<CoordinateSystem::Definition>();
     char* text = nullptr;
-    system.exportToWkt(&text);
-    made->wkt = takeText(text);
-    text = nullptr;
-    system.exportToMICoordSys(&text);
-    made->clause = takeText(text);
+    library.OSRExportToWkt(system, &text);
+    made->wkt = takeGdalText(std::exchange(text, nullptr));
+    library.OSRExportToMICoordSys(system, &text);
+    made->clause = takeGdalText(text);
     made->name = nameOf(system);
-    made->isLongLat = system.IsGeographic() != 0;
-    made->isEarth = system.IsLocal() == 0;
-    made->metresPerUnit = system.GetLinearUnits();
+    made->isLongLat = library.OSRIsGeographic(system) != 0;
+    made->isEarth = library.OSRIsLocal(system) == 0;
+    made->metresPerUnit = library.OSRGetLinearUnits(system, nullptr);
     return made;
   }
 };

@@ -1,88 +1,15 @@
 #include "motor/tables/object_pool.h"
 
-#include <ogr_geometry.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <numbers>
 
+#include "motor/tables/flattened_geometry.h"
 #include "text/utf8.h"
 
 namespace motor {
 namespace {
-
-// Appends the parts of a geometry that have the given dimension (0 points, 1 lines, 2 regions).
-class Flattener {
- public:
-  Flattener(MapObject& object, int dimension) : object_(object), dimension_(dimension) {}
-
-  void add(const OGRGeometry& geometry) {
-    switch (wkbFlatten(geometry.getGeometryType())) {
-      case wkbPoint:
-        return addPoint(*geometry.toPoint());
-      case wkbLineString:
-        return addLine(*geometry.toLineString());
-      case wkbPolygon:
-        return addPolygon(*geometry.toPolygon());
-      case wkbMultiPoint:
-      case wkbMultiLineString:
-      case wkbMultiPolygon:
-      case wkbGeometryCollection:
-        for (const OGRGeometry* member : *geometry.toGeometryCollection()) add(*member);
-        return;
-      default:
-        return;
-    }
-  }
-
- private:
-  void addPoint(const OGRPoint& point) {
-    if (dimension_ != 0 || point.IsEmpty() != 0) return;
-    if (object_.parts.empty()) object_.parts.push_back(0);
-    object_.points.push_back({point.getX(), point.getY()});
-  }
-
-  void addLine(const OGRLineString& line) {
-    if (dimension_ == 1 && line.getNumPoints() > 0) addPart(line);
-  }
-
-  void addPolygon(const OGRPolygon& polygon) {
-    if (dimension_ != 2) return;
-    for (const OGRLinearRing* ring : polygon) {
-      if (ring->getNumPoints() == 0) continue;
-      const std::size_t begin = object_.points.size();
-      addPart(*ring);
-      if (object_.points[begin] != object_.points.back()) object_.points.push_back(object_.points[begin]);
-    }
-  }
-
-  void addPart(const OGRLineString& line) {
-    const std::size_t begin = object_.points.size();
-    const int count = line.getNumPoints();
-    object_.parts.push_back(static_cast<std::uint32_t>(begin));
-    object_.points.resize(begin + static_cast<std::size_t>(count));
-    Point* next = object_.points.data() + begin;
-    for (int i = 0; i < count; ++i) *next++ = {line.getX(i), line.getY(i)};
-  }
-
-  MapObject& object_;
-  int dimension_;
-};
-
-constexpr MapObject::Kind kKindByDimension[] = {MapObject::Kind::point, MapObject::Kind::polyline,
-                                                MapObject::Kind::region};
-
-void flatten(const OGRGeometry& geometry, MapObject& object) {
-  if (geometry.hasCurveGeometry(TRUE) != 0) {
-    const std::unique_ptr<OGRGeometry> linear(geometry.getLinearGeometry());
-    if (linear) flatten(*linear, object);
-    return;
-  }
-  const int dimension = std::clamp(geometry.getDimension(), 0, 2);
-  object.kind = kKindByDimension[dimension];
-  Flattener(object, dimension).add(geometry);
-}
 
 // Mixes eight bytes at a time; equal points give equal hashes, and those of a table are few.
 std::uint64_t hashOf(const MapObject& object, std::uint32_t style) {
@@ -135,10 +62,10 @@ void applyStyle(const ObjectStyle& style, MapObject& object) {
 
 }  // namespace
 
-std::uint32_t ObjectPool::add(const OGRGeometry& geometry, std::string_view style) {
+std::uint32_t ObjectPool::add(OGRGeometryH geometry, std::string_view style) {
   scratch_.points.clear();
   scratch_.parts.clear();
-  flatten(geometry, scratch_);
+  appendFlattened(geometry, scratch_);
   if (scratch_.points.empty()) return kNone;
   const std::uint32_t number = styleNumber(style);
   if (last_ == kNone || !isScratch(entries_[last_], number)) last_ = addScratch(number);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ogr_api.h>
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,8 +12,6 @@
 #include "motor/tables/geometry.h"
 #include "motor/tables/object_style.h"
 
-class OGRGeometry;
-
 namespace motor {
 
 // Turns the geometries of a table into objects, one for all rows whose geometry and style are the same.
@@ -21,7 +21,7 @@ class ObjectPool {
 
   // The number of the object for a geometry and its style string, from 0; kNone when it has no points. Curves become
   // lines; of a mixed collection the parts of the highest dimension are kept.
-  std::uint32_t add(const OGRGeometry& geometry, std::string_view style);
+  std::uint32_t add(OGRGeometryH geometry, std::string_view style);
 
   // The objects by number. Leaves the pool empty.
   [[nodiscard]] std::vector<ObjectPtr> take();

@@ -1,8 +1,8 @@
 #include "motor/tables/ogr_errors.h"
 
-#include <cpl_error.h>
-
 #include <string_view>
+
+#include "motor/tables/gdal.h"
 
 namespace motor {
 namespace {
@@ -12,13 +12,13 @@ constexpr std::string_view kUnknownColumn = "Unsupported field type";
 
 void CPL_STDCALL note(CPLErr kind, CPLErrorNum, const char* message) {
   if (kind >= CE_Failure && !std::string_view(message).starts_with(kUnknownColumn))
-    *static_cast<bool*>(CPLGetErrorHandlerUserData()) = true;
+    *static_cast<bool*>(gdal().CPLGetErrorHandlerUserData()) = true;
 }
 
 }  // namespace
 
-OgrErrors::OgrErrors() { CPLPushErrorHandlerEx(note, &failed_); }
+OgrErrors::OgrErrors() { gdal().CPLPushErrorHandlerEx(note, &failed_); }
 
-OgrErrors::~OgrErrors() { CPLPopErrorHandler(); }
+OgrErrors::~OgrErrors() { gdal().CPLPopErrorHandler(); }
 
 }  // namespace motor

@@ -1,10 +1,5 @@
 #include "motor/tables/seamless_parts.h"
 
-#include <cpl_string.h>
-#include <cpl_vsi.h>
-#include <gdal_priv.h>
-#include <ogrsf_frmts.h>
-
 #include <algorithm>
 #include <atomic>
 #include <fstream>
@@ -12,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "motor/tables/gdal.h"
 #include "motor/tables/read_failure.h"
 #include "platform/paths.h"
 #include "text/utf8.h"
@@ -54,9 +50,10 @@ Definition definitionOf(const fs::path& file) {
 class MemoryFile {
  public:
   MemoryFile(std::string name, std::string bytes) : name_(std::move(name)), bytes_(std::move(bytes)) {
-    VSIFCloseL(VSIFileFromMemBuffer(name_.c_str(), reinterpret_cast<GByte*>(bytes_.data()), bytes_.size(), FALSE));
+    gdal().VSIFCloseL(
+        gdal().VSIFileFromMemBuffer(name_.c_str(), reinterpret_cast<GByte*>(bytes_.data()), bytes_.size(), FALSE));
   }
-  ~MemoryFile() { VSIUnlink(name_.c_str()); }
+  ~MemoryFile() { gdal().VSIUnlink(name_.c_str()); }
   MemoryFile(const MemoryFile&) = delete;
   MemoryFile& operator=(const MemoryFile&) = delete;
 
@@ -65,6 +62,15 @@ class MemoryFile {
   std::string bytes_;
 };
 
+// The words of a line, a quoted one without its quotes.
+std::vector<std::string> wordsOf(const std::string& line) {
+  char** const words = gdal().CSLTokenizeStringComplex(line.c_str(), " \t(),;\r", TRUE, FALSE);
+  std::vector<std::string> copies;
+  for (char** word = words; word != nullptr && *word != nullptr; ++word) copies.emplace_back(*word);
+  gdal().CSLDestroy(words);
+  return copies;
+}
+
 // The tables that a view's lines `Open Table "name" Hide` speak of, which lie beside it or are named from there.
 std::vector<fs::path> viewTables(const fs::path& file) {
   if (text::lower(utf8Of(file.extension())) != ".tab") return {};
@@ -72,7 +78,7 @@ std::vector<fs::path> viewTables(const fs::path& file) {
   std::istringstream lines(bytesOf(file));
   std::string line;
   while (std::getline(lines, line)) {
-    const CPLStringList words(CSLTokenizeStringComplex(line.c_str(), " \t(),;\r", TRUE, FALSE));
+    const std::vector<std::string> words = wordsOf(line);
     if (words.size() < 3 || !text::equalsIgnoringCase(words[0], "open") || !text::equalsIgnoringCase(words[1], "table"))
       continue;
     std::string name = words[2];
@@ -107,11 +113,16 @@ std::vector<fs::path> seamlessParts(const fs::path& file) {
   const std::string name = "/vsimem/seamless_" + std::to_string(++copies);
   const MemoryFile tabCopy(name + ".tab", definition.text);
   const MemoryFile dataCopy(name + ".dat", bytesOf(data));
-  const GDALDatasetUniquePtr dataset(GDALDataset::Open((name + ".tab").c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY));
-  if (!dataset || dataset->GetLayer(0)->GetLayerDefn()->GetFieldCount() == 0) failDamaged(file);
+  const Gdal& library = gdal();
+  const GdalDataset dataset(
+      library.GDALOpenEx((name + ".tab").c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY, nullptr, nullptr, nullptr));
+  if (!dataset) failDamaged(file);
+  const OGRLayerH layer = library.GDALDatasetGetLayer(dataset.get(), 0);
+  if (library.OGR_FD_GetFieldCount(library.OGR_L_GetLayerDefn(layer)) == 0) failDamaged(file);
   std::vector<fs::path> parts;
-  while (const OGRFeatureUniquePtr row{dataset->GetLayer(0)->GetNextFeature()}) {
-    parts.push_back(platform::machinePath(utf8Of(file.parent_path()) + "/" + row->GetFieldAsString(0)));
+  while (const GdalFeature row{library.OGR_L_GetNextFeature(layer)}) {
+    parts.push_back(
+        platform::machinePath(utf8Of(file.parent_path()) + "/" + library.OGR_F_GetFieldAsString(row.get(), 0)));
   }
   if (parts.empty()) failDamaged(file);
   return parts;

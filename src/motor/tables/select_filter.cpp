@@ -156,24 +156,7 @@ class Planner {
                          const LikePattern& pattern) {
     if (op == Operator::like) return pattern.matches(text);
     if (op == Operator::equal || op == Operator::notEqual) return equalTexts(text, constant) == (op == Operator::equal);
-    return passes(orderTexts(text, constant), op);
-  }
-
-  static bool passes(std::weak_ordering ordering, Operator op) {
-    switch (op) {
-      case Operator::less:
-        return ordering < 0;
-      case Operator::lessOrEqual:
-        return ordering <= 0;
-      case Operator::greater:
-        return ordering > 0;
-      case Operator::greaterOrEqual:
-        return ordering >= 0;
-      case Operator::notEqual:
-        return ordering != 0;
-      default:
-        return ordering == 0;
-    }
+    return satisfies(orderTexts(text, constant), op);
   }
 
   // No number comes before all numbers.
@@ -182,8 +165,8 @@ class Planner {
     if (numbers == nullptr || condition.op == Operator::like) return std::nullopt;
     return [numbers, op = condition.op, constant = *condition.constant.number()](RowId row) {
       const double number = (*numbers)[row - 1];
-      if (std::isnan(number) || number < constant) return passes(std::weak_ordering::less, op);
-      return passes(number > constant ? std::weak_ordering::greater : std::weak_ordering::equivalent, op);
+      if (std::isnan(number) || number < constant) return satisfies(std::weak_ordering::less, op);
+      return satisfies(number > constant ? std::weak_ordering::greater : std::weak_ordering::equivalent, op);
     };
   }
 

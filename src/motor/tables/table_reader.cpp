@@ -1,18 +1,13 @@
 #include "motor/tables/table_reader.h"
 
-#include <cpl_conv.h>
-#include <cpl_string.h>
-#include <gdal_priv.h>
-#include <ogrsf_frmts.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <limits>
-#include <mutex>
 
 #include "motor/tables/declared_columns.h"
+#include "motor/tables/gdal.h"
 #include "motor/tables/object_pool.h"
 #include "motor/tables/ogr_errors.h"
 #include "motor/tables/read_failure.h"
@@ -29,10 +24,8 @@ class Decoded {
   explicit Decoded(const char* bytes) : text_(bytes) {
     if (std::all_of(text_.begin(), text_.end(), [](char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; }))
       return;
-    if (CPLIsUTF8(bytes, static_cast<int>(text_.size())) != 0) return;
-    char* recoded = CPLRecode(bytes, "CP1252", CPL_ENC_UTF8);
-    recoded_ = recoded;
-    CPLFree(recoded);
+    if (gdal().CPLIsUTF8(bytes, static_cast<int>(text_.size())) != 0) return;
+    recoded_ = takeGdalText(gdal().CPLRecode(bytes, "CP1252", CPL_ENC_UTF8));
     text_ = recoded_;
   }
   [[nodiscard]] std::string_view text() const { return text_; }
@@ -64,7 +57,9 @@ double logicalOf(std::string_view text) {
   return kTrue.find(text.front()) == std::string_view::npos ? 0 : 1;
 }
 
-std::string dateText(const OGRFeature& feature, int field, OGRFieldType type) {
+constexpr std::array kMapEndings{".MAP", ".map", ".Map", ".MIF", ".mif"};
+
+std::string dateText(OGRFeatureH feature, int field, OGRFieldType type) {
   int year = 0;
   int month = 0;
   int day = 0;
@@ -72,7 +67,8 @@ std::string dateText(const OGRFeature& feature, int field, OGRFieldType type) {
   int minute = 0;
   float second = 0;
   int zone = 0;
-  if (feature.GetFieldAsDateTime(field, &year, &month, &day, &hour, &minute, &second, &zone) == 0) return {};
+  if (gdal().OGR_F_GetFieldAsDateTimeEx(feature, field, &year, &month, &day, &hour, &minute, &second, &zone) == 0)
+    return {};
   std::array<char, 64> text{};
   std::string result;
   if (type != OFTTime) {
@@ -87,30 +83,42 @@ std::string dateText(const OGRFeature& feature, int field, OGRFieldType type) {
   return result;
 }
 
+// Whether a table has a file of objects beside it.
+bool hasMapFile(const std::filesystem::path& table) {
+  std::error_code ignored;
+  return std::any_of(kMapEndings.begin(), kMapEndings.end(), [&](const char* ending) {
+    return std::filesystem::is_regular_file(std::filesystem::path(table).replace_extension(ending), ignored);
+  });
+}
+
 class Reader {
  public:
   explicit Reader(const OgrErrors& errors) : errors_(errors) {}
 
   // Appends the rows of a file's layer; a second one (of a table in several files) has the columns of the first, and
   // its rows are numbered on.
-  void add(const std::filesystem::path& file, OGRLayer& layer) {
+  void add(const std::filesystem::path& file, OGRLayerH layer) {
     const bool isFirst = contents_.columns.empty();
     if (isFirst) describeColumns(file, layer);
-    if (layer.GetLayerDefn()->GetFieldCount() != static_cast<int>(contents_.columns.size())) failDamaged(file);
+    if (library_.OGR_FD_GetFieldCount(library_.OGR_L_GetLayerDefn(layer)) != static_cast<int>(contents_.columns.size()))
+      failDamaged(file);
     const std::size_t rowsBefore = contents_.deleted.size();
-    while (const OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+    while (const GdalFeature feature{library_.OGR_L_GetNextFeature(layer)}) {
       if (errors_.failed()) failDamaged(file);
-      if (!startRow(static_cast<GIntBig>(rowsBefore) + feature->GetFID())) failDamaged(file);
-      for (std::size_t i = 0; i < contents_.columns.size(); ++i) addValue(*feature, i);
-      addObject(*feature);
+      if (!startRow(static_cast<GIntBig>(rowsBefore) + library_.OGR_F_GetFID(feature.get()))) failDamaged(file);
+      for (std::size_t i = 0; i < contents_.columns.size(); ++i) addValue(feature.get(), i);
+      addObject(feature.get());
     }
     if (errors_.failed()) failDamaged(file);
-    if (isFirst) contents_.coordinateSystem = systemOf(layer);
+    if (!isFirst) return;
+    contents_.coordinateSystem = systemOf(layer);
+    hasMapFile_ = hasMapFile(file);
   }
 
   TableContents take() {
     contents_.objects = ObjectSet(pool_.take(), std::move(objectByRow_));
-    contents_.hasObjects = !contents_.objects.objects().empty();
+    // Without rows it is the map file that tells.
+    contents_.hasObjects = !contents_.objects.objects().empty() || (hasMapFile_ && contents_.deleted.empty());
     // The library calls some projections that it does not know degrees; coordinates that cannot be any lie on a plain
     // grid.
     const Box& bounds = contents_.objects.bounds();
@@ -121,21 +129,22 @@ class Reader {
   }
 
  private:
-  void describeColumns(const std::filesystem::path& file, OGRLayer& layer) {
-    const OGRFeatureDefn& definition = *layer.GetLayerDefn();
-    const auto count = static_cast<std::size_t>(definition.GetFieldCount());
+  void describeColumns(const std::filesystem::path& file, OGRLayerH layer) {
+    const OGRFeatureDefnH definition = library_.OGR_L_GetLayerDefn(layer);
+    const auto count = static_cast<std::size_t>(library_.OGR_FD_GetFieldCount(definition));
     const std::vector<bool> logical = declaredLogical(file, count);
     for (std::size_t i = 0; i < count; ++i) {
-      const OGRFieldDefn& field = *definition.GetFieldDefn(static_cast<int>(i));
+      const OGRFieldDefnH field = library_.OGR_FD_GetFieldDefn(definition, static_cast<int>(i));
+      const OGRFieldType type = library_.OGR_Fld_GetType(field);
       Column column;
-      column.name = Decoded(field.GetNameRef()).text();
-      column.type = logical[i] ? Column::Type::logical : typeOf(field.GetType());
-      column.width = field.GetWidth();
-      column.decimals = field.GetPrecision();
+      column.name = Decoded(library_.OGR_Fld_GetNameRef(field)).text();
+      column.type = logical[i] ? Column::Type::logical : typeOf(type);
+      column.width = library_.OGR_Fld_GetWidth(field);
+      column.decimals = library_.OGR_Fld_GetPrecision(field);
       const bool isText = column.type == Column::Type::text || column.type == Column::Type::date;
       contents_.data.push_back(isText ? TableContents::Data(TextColumn()) : TableContents::Data(std::vector<double>()));
       contents_.columns.push_back(std::move(column));
-      fieldTypes_.push_back(field.GetType());
+      fieldTypes_.push_back(type);
     }
   }
 
@@ -161,47 +170,48 @@ class Reader {
     }
   }
 
-  void addValue(const OGRFeature& feature, std::size_t column) {
+  void addValue(OGRFeatureH feature, std::size_t column) {
     const int field = static_cast<int>(column);
     TableContents::Data& data = contents_.data[column];
-    const bool isSet = feature.IsFieldSetAndNotNull(field) != 0;
+    const bool isSet = library_.OGR_F_IsFieldSetAndNotNull(feature, field) != 0;
     if (auto* texts = std::get_if<TextColumn>(&data)) {
       if (!isSet) return texts->append({});
       if (contents_.columns[column].type == Column::Type::date) {
         return texts->append(dateText(feature, field, fieldTypes_[column]));
       }
-      return texts->append(Decoded(feature.GetFieldAsString(field)).text());
+      return texts->append(Decoded(library_.OGR_F_GetFieldAsString(feature, field)).text());
     }
     auto& numbers = std::get<std::vector<double>>(data);
     if (!isSet) return numbers.push_back(kNoNumber);
     const bool isLogical = contents_.columns[column].type == Column::Type::logical;
-    numbers.push_back(isLogical ? logicalOf(feature.GetFieldAsString(field)) : feature.GetFieldAsDouble(field));
+    numbers.push_back(isLogical ? logicalOf(library_.OGR_F_GetFieldAsString(feature, field))
+                                : library_.OGR_F_GetFieldAsDouble(feature, field));
   }
 
-  void addObject(OGRFeature& feature) {
-    const OGRGeometry* geometry = feature.GetGeometryRef();
+  void addObject(OGRFeatureH feature) {
+    const OGRGeometryH geometry = library_.OGR_F_GetGeometryRef(feature);
     if (geometry == nullptr) return objectByRow_.push_back(ObjectSet::kNone);
-    const char* style = feature.GetStyleString();
-    objectByRow_.push_back(pool_.add(*geometry, style == nullptr ? "" : style));
+    const char* style = library_.OGR_F_GetStyleString(feature);
+    objectByRow_.push_back(pool_.add(geometry, style == nullptr ? "" : style));
   }
 
   // Coordinates without a system, as those of old MIF files, are degrees.
-  static CoordinateSystem systemOf(OGRLayer& layer) {
-    const OGRSpatialReference* given = layer.GetSpatialRef();
+  [[nodiscard]] CoordinateSystem systemOf(OGRLayerH layer) const {
+    const OGRSpatialReferenceH given = library_.OGR_L_GetSpatialRef(layer);
     if (given == nullptr) return {};
     char* wkt = nullptr;
-    given->exportToWkt(&wkt);
-    const std::string text = wkt == nullptr ? "" : wkt;
-    CPLFree(wkt);
-    return CoordinateSystem::fromWkt(text);
+    library_.OSRExportToWkt(given, &wkt);
+    return CoordinateSystem::fromWkt(takeGdalText(wkt));
   }
 
   static constexpr double kLargestDegree = 720;
 
+  const Gdal& library_ = gdal();
   const OgrErrors& errors_;
   TableContents contents_;
   std::vector<OGRFieldType> fieldTypes_;
   ObjectPool pool_;
+  bool hasMapFile_ = false;
   std::vector<std::uint32_t> objectByRow_;
 };
 
@@ -211,17 +221,15 @@ void readFile(const std::filesystem::path& file, const OgrErrors& errors, Reader
   const std::u8string name = file.u8string();
   const std::string utf8Name(name.begin(), name.end());
   const char* const drivers[] = {"MapInfo File", nullptr};
-  const GDALDatasetUniquePtr dataset(
-      GDALDataset::Open(utf8Name.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
-  if (!dataset || dataset->GetLayerCount() == 0 || errors.failed()) failDamaged(file);
-  reader.add(file, *dataset->GetLayer(0));
+  const GdalDataset dataset(
+      gdal().GDALOpenEx(utf8Name.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
+  if (!dataset || gdal().GDALDatasetGetLayerCount(dataset.get()) == 0 || errors.failed()) failDamaged(file);
+  reader.add(file, gdal().GDALDatasetGetLayer(dataset.get(), 0));
 }
 
 }  // namespace
 
 TableContents readTable(const std::filesystem::path& file) {
-  static std::once_flag registered;
-  std::call_once(registered, RegisterOGRTAB);
   const OgrErrors errors;
   Reader reader(errors);
   const std::vector<std::filesystem::path> parts = seamlessParts(file);

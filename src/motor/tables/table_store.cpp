@@ -58,6 +58,11 @@ std::shared_ptr<const BaseTable> TableStore::open(const fs::path& file, const Ma
   return entries_.emplace(std::move(key), std::move(entry)).first->second.table;
 }
 
+std::size_t TableStore::size() {
+  const std::lock_guard lock(mutex_);
+  return entries_.size();
+}
+
 void TableStore::clear() {
   const std::scoped_lock lock(mutex_);
   std::erase_if(entries_, [](const auto& entry) { return entry.second.table.use_count() == 1; });

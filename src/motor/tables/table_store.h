@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -29,6 +30,8 @@ class TableStore {
 
   // Forgets everything that nobody holds.
   void clear();
+  // How many tables are kept.
+  [[nodiscard]] std::size_t size();
 
  private:
   // Size and time of one file; equal for a file that has not changed.

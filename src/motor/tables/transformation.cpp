@@ -1,5 +1,3 @@
-#include <ogr_spatialref.h>
-
 #include <cmath>
 #include <limits>
 #include <map>
@@ -7,6 +5,7 @@
 
 #include "motor/tables/coordinate_definition.h"
 #include "motor/tables/coordinate_system.h"
+#include "motor/tables/gdal.h"
 #include "motor/tables/ogr_errors.h"
 
 namespace motor {
@@ -15,15 +14,21 @@ namespace {
 constexpr double kNoCoordinate = std::numeric_limits<double>::quiet_NaN();
 constexpr int kStepsPerEdge = 20;  // how finely a box's outline is followed
 
-using OgrTransformation = std::shared_ptr<OGRCoordinateTransformation>;
+using OgrTransformation = std::shared_ptr<void>;
+
+// Null when the text is not understood. Axes are in the order of a map: x, y.
+GdalSystem systemFrom(const std::string& wkt) {
+  GdalSystem system(gdal().OSRNewSpatialReference(nullptr));
+  gdal().OSRSetAxisMappingStrategy(system.get(), OAMS_TRADITIONAL_GIS_ORDER);
+  char* text = const_cast<char*>(wkt.c_str());  // the pointer moves on, the text is only read
+  return gdal().OSRImportFromWkt(system.get(), &text) == OGRERR_NONE ? std::move(system) : nullptr;
+}
 
 OgrTransformation createTransformation(const std::string& fromWkt, const std::string& toWkt) {
-  OGRSpatialReference from;
-  OGRSpatialReference to;
-  from.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-  to.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-  if (from.importFromWkt(fromWkt.c_str()) != OGRERR_NONE || to.importFromWkt(toWkt.c_str()) != OGRERR_NONE) return {};
-  return OgrTransformation(OGRCreateCoordinateTransformation(&from, &to));
+  const GdalSystem from = systemFrom(fromWkt);
+  const GdalSystem to = systemFrom(toWkt);
+  if (!from || !to) return {};
+  return GdalTransformation(gdal().OCTNewCoordinateTransformation(from.get(), to.get()));
 }
 
 using TransformationsByWkt = std::map<std::pair<std::string, std::string>, OgrTransformation>;
@@ -31,8 +36,7 @@ using TransformationsByWkt = std::map<std::pair<std::string, std::string>, OgrTr
 // What a thread keeps is destroyed in reverse order: the library's own state of the thread must be there first, so that
 // it outlives the transformations.
 TransformationsByWkt afterTheLibrary() {
-  OGRSpatialReference any;
-  any.SetWellKnownGeogCS("WGS84");
+  static_cast<void>(systemFrom(CoordinateSystem().wkt()));
   return {};
 }
 
@@ -95,7 +99,8 @@ void Transformation::apply(std::vector<Point>& points) const {
       y[i] = points[i].y;
     }
     const OgrErrors quiet;
-    implementation_->ogr->Transform(static_cast<int>(points.size()), x.data(), y.data(), nullptr, nullptr, done.data());
+    gdal().OCTTransformEx(implementation_->ogr.get(), static_cast<int>(points.size()), x.data(), y.data(), nullptr,
+                          done.data());
   }
   for (std::size_t i = 0; i < points.size(); ++i) {
     const bool good = done[i] != 0 && std::isfinite(x[i]) && std::isfinite(y[i]);

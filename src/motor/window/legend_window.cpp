@@ -2,26 +2,61 @@
 
 #include <QCloseEvent>
 #include <QPainter>
-
-#include "motor/drawing/legend.h"
+#include <QScreen>
+#include <QScrollBar>
+#include <algorithm>
 
 namespace motor {
 
-LegendWindow::LegendWindow(MapWindow& window, QWidget* parent) : QWidget(parent, Qt::Tool), window_(window) {
+namespace {
+
+constexpr QSize kFrame(12, 42);  // pixels that a window's frame takes at most, while it is not known yet
+
+}  // namespace
+
+void LegendSheet::setLegend(Legend legend) {
+  legend_ = std::move(legend);
+  setFixedSize(legend_.size());
+  update();
+}
+
+void LegendSheet::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  legend_.paint(painter, devicePixelRatioF());
+}
+
+LegendWindow::LegendWindow(MapWindow& window, QWidget* parent)
+    : QScrollArea(parent), window_(window), sheet_(new LegendSheet) {
+  setWindowFlags(Qt::Tool);
   setWindowTitle(QStringLiteral("Leyenda"));
   setAccessibleName(QStringLiteral("Leyenda"));
+  setFrameShape(QFrame::NoFrame);
+  setWidget(sheet_);
   refresh();
 }
 
 void LegendWindow::refresh() {
-  setFixedSize(legendSize(window_.map()));
-  update();
+  themes_.dropUnused();
+  sheet_->setLegend(Legend(legendSections(window_.map(), themes_)));
+  const QSize room = screen()->availableSize() - kFrame;
+  QSize size = sheet_->size();
+  if (size.height() > room.height()) size.rwidth() += verticalScrollBar()->sizeHint().width();
+  setFixedSize(size.boundedTo(room));
+  if (isVisible()) keepOnScreen();
 }
 
-void LegendWindow::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.fillRect(rect(), Qt::white);
-  paintLegend(painter, window_.map(), devicePixelRatioF());
+void LegendWindow::placeAt(QPoint corner) {
+  move(corner);
+  keepOnScreen();
+}
+
+void LegendWindow::keepOnScreen() {
+  const QRect room = screen()->availableGeometry();
+  const QSize frame = isVisible() ? frameGeometry().size() : size() + kFrame;
+  const QPoint last(room.right() - frame.width() + 1, room.bottom() - frame.height() + 1);
+  move(std::clamp(x(), room.left(), std::max(room.left(), last.x())),
+       std::clamp(y(), room.top(), std::max(room.top(), last.y())));
 }
 
 void LegendWindow::closeEvent(QCloseEvent* event) {

@@ -12,7 +12,7 @@ constexpr double kFrameMilliseconds = 16;
 
 }  // namespace
 
-void MapPicture::render(const Map& map, const Key& key, Quality quality) {
+void MapPicture::render(const Map& map, const Key& key, Quality quality, const QRectF& withoutLabels) {
   QElapsedTimer timer;
   timer.start();
   const QSize pixels = (QSizeF(key.size) * key.devicePixelRatio).toSize();
@@ -20,6 +20,7 @@ void MapPicture::render(const Map& map, const Key& key, Quality quality) {
   image_.setDevicePixelRatio(key.devicePixelRatio);
   image_.fill(Qt::white);
   QPainter painter(&image_);
+  painter_.keepLabelsOff({withoutLabels});
   painter_.paint(painter, map, key.size, key.devicePixelRatio, quality);
   key_ = key;
   quality_ = quality;
@@ -33,6 +34,13 @@ std::optional<Quality> MapPicture::qualityForMoving() const {
   if (bestMilliseconds_ <= kFrameMilliseconds) return Quality::best;
   if (fastMilliseconds_ <= kFrameMilliseconds) return Quality::fast;
   return std::nullopt;
+}
+
+bool MapPicture::covers(const Map& map, QSizeF size) const {
+  constexpr double kRounding = 0.5;  // pixels
+  if (isEmpty()) return false;
+  const QRectF place = MapView(map, size).toPixels(shown_).adjusted(-kRounding, -kRounding, kRounding, kRounding);
+  return place.contains(QRectF(QPointF(0, 0), size));
 }
 
 void MapPicture::paint(QPainter& painter, const Map& map, QSizeF size) const {

@@ -26,7 +26,10 @@ class MapPicture {
   [[nodiscard]] bool isEmpty() const { return image_.isNull(); }
   // Whether the picture is what `key` wants, at full quality.
   [[nodiscard]] bool isGoodFor(const Key& key) const { return !isEmpty() && key_ == key && quality_ == Quality::best; }
-  void render(const Map& map, const Key& key, Quality quality);
+  // Whether the picture, moved and scaled, leaves nothing of the map's present view empty.
+  [[nodiscard]] bool covers(const Map& map, QSizeF size) const;
+  // Labels keep off `withoutLabels`, in logical pixels.
+  void render(const Map& map, const Key& key, Quality quality, const QRectF& withoutLabels);
   // The best quality at which the map can be painted again while it moves; none when it takes too long at any.
   [[nodiscard]] std::optional<Quality> qualityForMoving() const;
 

@@ -11,8 +11,8 @@
 #include <cmath>
 
 #include "motor/drawing/scale_bar.h"
+#include "motor/session/map_view.h"
 #include "motor/window/map_cursor.h"
-#include "motor/window/whole_map.h"
 
 namespace motor {
 
@@ -24,7 +24,9 @@ constexpr double kNotchFactor = 0.8;  // one notch forward shows so much of the 
 constexpr double kKeyFactor = 0.5;
 constexpr double kKeyShare = 0.15;  // of the window, panned by an arrow key
 constexpr double kScaleBarPixels = 110;
-constexpr QPointF kScaleBarInset(12, 12);
+constexpr double kScaleBarInset = 8;
+constexpr double kRingPixels = 2;
+constexpr QColor kEdge(31, 42, 60, 40);
 
 Point toPoint(QPointF p) { return {p.x(), p.y()}; }
 
@@ -89,25 +91,49 @@ void MapWidget::paintEvent(QPaintEvent*) {
     return;
   }
   paintMap(painter);
-  paintScale(painter);
+  paintScaleBar(painter, scaleBar(), scaleBarCorner());
+  paintEdge(painter);
+  if (showsFocus_ && hasFocus()) paintFocusRing(painter);
 }
 
-// While the map is moving a picture that is out of date is shown moved and scaled, unless the map can be painted in
-// time.
+// While the map is moving a picture that is out of date is shown moved and scaled, unless that leaves a part of the
+// window empty and the map can be painted in time.
 void MapWidget::paintMap(QPainter& painter) {
   const MapPicture::Key key{window_->revision(), size(), devicePixelRatioF()};
   const bool moving = settle_.isActive() && !picture_.isEmpty();
   if (!picture_.isGoodFor(key)) {
     const auto quality = moving ? picture_.qualityForMoving() : Quality::best;
-    if (quality && (!moving || drag_ == Drag::pan)) picture_.render(window_->map(), key, *quality);
+    if (quality && (!moving || !picture_.covers(window_->map(), size()))) {
+      picture_.render(window_->map(), key, *quality, scaleBarPlate(scaleBar(), scaleBarCorner()));
+    }
   }
   if (!picture_.isGoodFor(key)) painter.fillRect(rect(), Qt::white);
   picture_.paint(painter, window_->map(), size());
 }
 
-void MapWidget::paintScale(QPainter& painter) {
-  const ScaleBar bar = scaleBarFor(window_->map().zoomMetres / width(), kScaleBarPixels);
-  paintScaleBar(painter, bar, QPointF(kScaleBarInset.x(), height() - kScaleBarInset.y()));
+ScaleBar MapWidget::scaleBar() const { return scaleBarFor(window_->map().zoomMetres / width(), kScaleBarPixels); }
+
+QPointF MapWidget::scaleBarCorner() const { return {kScaleBarInset, height() - kScaleBarInset}; }
+
+// A hairline tells where a map on white ground ends.
+void MapWidget::paintEdge(QPainter& painter) const {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(kEdge, 1));
+  painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+// A ring inside the edge, light on its inner side: it is seen on any map. A widget does not get its parent's colours by
+// itself where the application has a style sheet.
+void MapWidget::paintFocusRing(QPainter& painter) const {
+  const double ring = kRingPixels;
+  const QPalette& colours = parentWidget() == nullptr ? palette() : parentWidget()->palette();
+  painter.save();
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(Qt::white, ring, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(QRectF(rect()).adjusted(1.5 * ring, 1.5 * ring, -1.5 * ring, -1.5 * ring));
+  painter.setPen(QPen(colours.color(QPalette::Highlight), ring, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.drawRect(QRectF(rect()).adjusted(ring / 2, ring / 2, -ring / 2, -ring / 2));
+  painter.restore();
 }
 
 void MapWidget::resizeEvent(QResizeEvent*) { reportSize(); }
@@ -169,7 +195,8 @@ bool MapWidget::moveByKey(int key) {
       window_->zoomedBy(1 / kKeyFactor, middle);
       return true;
     case Qt::Key_Home:
-      showWholeMap(*window_);
+      showEntire(window_->map());
+      window_->changed();
       return true;
     default:
       return false;
@@ -196,8 +223,18 @@ void MapWidget::keyReleaseEvent(QKeyEvent* event) {
   updateCursor();
 }
 
+// Who clicks on the map sees where he is; who comes by the keyboard is told.
+void MapWidget::focusInEvent(QFocusEvent* event) {
+  const Qt::FocusReason reason = event->reason();
+  showsFocus_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason ||
+                (showsFocus_ && (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason));
+  update();
+  QWidget::focusInEvent(event);
+}
+
 void MapWidget::focusOutEvent(QFocusEvent* event) {
   spaceHeld_ = false;
+  update();
   updateCursor();
   QWidget::focusOutEvent(event);
 }

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <optional>
 
+#include "motor/drawing/scale_bar.h"
 #include "motor/session/map_window.h"
 #include "motor/window/map_picture.h"
 #include "motor/window/parent_filler.h"
@@ -12,7 +13,8 @@ namespace motor {
 
 // A map on the screen. It shows a kept picture and reports what the user does: clicks with the current tool, the wheel
 // zooms around the pointer, the grabber, the middle button or the left button with the space bar held pans, arrows pan,
-// + and - zoom, Home shows the whole map, the right button opens the map's shortcut menu.
+// + and - zoom, Home shows the whole map, the right button opens the map's shortcut menu. Reached by the keyboard it
+// has a ring in the highlight colour of what it lies in.
 class MapWidget : public QWidget {
  public:
   explicit MapWidget(MapWindow& window);
@@ -38,6 +40,7 @@ class MapWidget : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -45,7 +48,10 @@ class MapWidget : public QWidget {
   enum class Drag { none, click, pan };
 
   void paintMap(QPainter& painter);
-  void paintScale(QPainter& painter);
+  void paintEdge(QPainter& painter) const;
+  void paintFocusRing(QPainter& painter) const;
+  [[nodiscard]] ScaleBar scaleBar() const;
+  [[nodiscard]] QPointF scaleBarCorner() const;
   void startMoving();
   void updateCursor();
   [[nodiscard]] bool moveByKey(int key);
@@ -57,6 +63,7 @@ class MapWidget : public QWidget {
   QPointF pressedAt_;
   QPointF lastAt_;
   bool spaceHeld_ = false;
+  bool showsFocus_ = false;  // while the map has the keyboard: it came by it
   std::optional<ParentFiller> filler_;
 };
 

@@ -4,6 +4,8 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QPrinter>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -137,6 +139,65 @@ TEST_F(MapWindows, TheWheelZoomsAroundThePointer) {
   EXPECT_NEAR(map().zoomMetres, before, before * 0.02);
 }
 
+TEST_F(MapWindows, TheWheelStopsAtAHouseAndAtSomeTimesTheWholeMap) {
+  session_->run("set map zoom entire");
+  const double entire = map().zoomMetres;
+  for (int turn = 0; turn < 200; ++turn) turnWheel({300, 80}, -120);
+  EXPECT_NEAR(map().zoomMetres, 4 * entire, 1);
+  const Point centre = map().centre;
+  turnWheel({300, 80}, -120);
+  EXPECT_EQ(map().centre, centre) << "nothing moves at the end";
+  for (int turn = 0; turn < 200; ++turn) turnWheel({300, 80}, 120);
+  EXPECT_NEAR(map().zoomMetres, 50, 1e-6);
+}
+
+TEST_F(MapWindows, TheWholeMapStaysWholeWhenTheWindowChangesItsShape) {
+  session_->run("set map zoom entire");
+  const double first = map().zoomMetres;
+  for (const QSize size : {QSize(900, 200), QSize(200, 700), QSize(400, 300)}) {
+    widget_->resize(size);
+    widget_->reportSize();
+    const Box seen = map().visibleBox();
+    EXPECT_TRUE(seen.contains({-6, 40}) && seen.contains({0, 43})) << size.width();
+    const double across = 6 / (seen.maxX - seen.minX);
+    const double down = 3 / (seen.maxY - seen.minY);
+    EXPECT_NEAR(std::max(across, down), 1 / 1.04, 0.02) << "no larger than needed";
+  }
+  EXPECT_NEAR(map().zoomMetres, first, first * 1e-6);
+}
+
+TEST_F(MapWindows, AHairlineTellsWhereTheMapEnds) {
+  session_->run("Set Map Zoom 40000 Units \"km\"");
+  const QImage image = widget_->grab().toImage();
+  EXPECT_EQ(image.pixelColor(5, 100), QColor(Qt::white));
+  for (const QPoint edge : {QPoint(0, 100), QPoint(399, 100), QPoint(200, 0), QPoint(200, 299)}) {
+    EXPECT_NE(image.pixelColor(edge), QColor(Qt::white)) << edge.x() << " " << edge.y();
+  }
+}
+
+TEST_F(MapWindows, OnlyTheKeyboardsFocusIsShown) {
+  QWidget frame;
+  frame.resize(500, 400);
+  QWidget before(&frame);
+  before.setFocusPolicy(Qt::StrongFocus);
+  widget_->setParent(&frame);
+  frame.show();
+  frame.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+  QPalette colours = frame.palette();
+  colours.setColor(QPalette::Highlight, Qt::magenta);
+  frame.setPalette(colours);
+  const auto isRinged = [&] { return widget_->grab().toImage().pixelColor(0, 100) == QColor(Qt::magenta); };
+  widget_->setFocus(Qt::MouseFocusReason);
+  EXPECT_FALSE(isRinged());
+  before.setFocus(Qt::TabFocusReason);
+  widget_->setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(isRinged());
+  before.setFocus(Qt::TabFocusReason);
+  EXPECT_FALSE(isRinged());
+  widget_->setParent(nullptr);
+}
+
 TEST_F(MapWindows, AnExposeWithoutChangeCopiesThePicture) {
   (void)widget_->grab();
   EXPECT_EQ(widget_->renderCount(), 1);
@@ -163,6 +224,15 @@ TEST_F(MapWindows, TheWheelScalesThePictureAtOnceAndPaintsItAnewWhenItRests) {
   EXPECT_EQ(widget_->renderCount(), 2);
   // The same part of the world: the picture's middle has the fill of both.
   EXPECT_EQ(sharp.pixel(200, 140), scaled.pixel(200, 140));
+}
+
+TEST_F(MapWindows, WhatTheWheelUncoversIsPaintedAtOnce) {
+  session_->run("Set Map Zoom 200 Units \"km\"");
+  (void)widget_->grab();
+  turnWheel({200, 150}, -240);
+  const QImage image = widget_->grab().toImage();
+  EXPECT_EQ(widget_->renderCount(), 2);
+  EXPECT_NE(image.pixelColor(20, 20), QColor(Qt::white)) << "the map reaches beyond what was seen before";
 }
 
 TEST_F(MapWindows, KeysMoveAndZoom) {
@@ -240,6 +310,62 @@ TEST_F(MapWindows, TheLegendHasAWindowOfItsOwn) {
   EXPECT_TRUE(legend->isVisible());
   windows_.hideLegend();
   EXPECT_EQ(frame.findChild<LegendWindow*>(), nullptr);
+}
+
+TEST_F(MapWindows, TheLegendStaysOnTheScreenAndAboveItsParent) {
+  QWidget frame;
+  frame.show();
+  const std::int64_t parent = handles_.handleOf(frame);
+  const QRect screen = frame.screen()->availableGeometry();
+  windows_.showLegend(window(), parent, 20000, 20000);
+  auto* legend = frame.findChild<LegendWindow*>();
+  EXPECT_TRUE(screen.contains(legend->frameGeometry())) << "it was put far outside";
+  EXPECT_EQ(legend->windowFlags() & Qt::WindowType_Mask, Qt::Tool);
+  EXPECT_EQ(legend->parentWidget(), &frame);
+  windows_.showLegend(window(), parent, 20, 30);
+  EXPECT_EQ(frame.findChild<LegendWindow*>(), legend);
+  EXPECT_EQ(legend->pos(), frame.mapToGlobal(QPoint(20, 30)));
+}
+
+TEST_F(MapWindows, TheLegendFollowsTheThemes) {
+  QWidget frame;
+  session_->run("Set Window Legend Parent " + std::to_string(handles_.handleOf(frame)));
+  session_->run("open window legend");
+  const auto* legend = frame.findChild<LegendWindow*>();
+  const QSize layers = legend->size();
+  session_->run("shade 1 with Nombre values \"a\" Brush (2,1), \"b\" Brush (2,2), \"c\" Brush (2,3)");
+  const QSize themed = legend->size();
+  EXPECT_NE(themed, layers);
+  session_->run("set legend layer 1 title \"Un título más largo que todo lo demás que hay\"");
+  EXPECT_GT(legend->width(), themed.width());
+  session_->run("set map layer 1 display off");
+  EXPECT_NE(legend->size(), themed);
+}
+
+// As many lines as no screen is high: what does not fit is scrolled to.
+TEST_F(MapWindows, ALegendThatIsTooTallScrolls) {
+  QWidget frame;
+  std::string shade = "shade 1 with Nombre values \"v0\" Brush (2,1)";
+  for (int i = 1; i < 200; ++i) shade += ", \"v" + std::to_string(i) + "\" Brush (2," + std::to_string(i) + ")";
+  session_->run(shade);
+  windows_.showLegend(window(), handles_.handleOf(frame), 0, 0);
+  const auto* legend = frame.findChild<LegendWindow*>();
+  EXPECT_LE(legend->height(), frame.screen()->availableGeometry().height());
+  EXPECT_GT(legend->verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(legend->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(MapWindows, TheLegendIsThatOfTheMapInFront) {
+  QWidget frame;
+  session_->run("Set Window Legend Parent " + std::to_string(handles_.handleOf(frame)));
+  session_->run("open window legend");
+  EXPECT_TRUE(frame.findChild<LegendWindow*>()->shows(window()));
+  session_->run("Map From Provincias2001");
+  const MapWindow& second = *session_->mapWindows().back();
+  EXPECT_TRUE(frame.findChild<LegendWindow*>()->shows(second));
+  session_->run("Close Window FrontWindow()");
+  ASSERT_NE(frame.findChild<LegendWindow*>(), nullptr);
+  EXPECT_TRUE(frame.findChild<LegendWindow*>()->shows(window()));
 }
 
 TEST_F(MapWindows, TheSessionHearsOfALegendThatTheUserCloses) {

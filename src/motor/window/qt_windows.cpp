@@ -3,8 +3,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "motor/session/map_view.h"
 #include "motor/window/map_printing.h"
-#include "motor/window/whole_map.h"
 
 namespace motor {
 
@@ -75,7 +75,7 @@ void QtWindows::showLegend(MapWindow& window, std::int64_t parent, int x, int y)
     hideLegend();
     legend_ = new LegendWindow(window, holder);  // deleted by hideLegend or by its parent
   }
-  legend_->move(holder == nullptr ? QPoint(x, y) : holder->mapToGlobal(QPoint(x, y)));
+  legend_->placeAt(holder == nullptr ? QPoint(x, y) : holder->mapToGlobal(QPoint(x, y)));
   legend_->show();
 }
 
@@ -89,7 +89,8 @@ bool QtWindows::command(MapWindow& window, int code) {
       askAndPrint(window.map(), widgetOf(window));
       return true;
     case kViewEntireLayer:
-      showWholeMap(window);
+      showEntire(window.map());
+      window.changed();
       return true;
     default:
       return false;

@@ -1,6 +1,7 @@
 #include "motor/language/expressions/between.h"
 
 #include <algorithm>
+#include <compare>
 
 #include "motor/language/comparison.h"
 
@@ -18,7 +19,7 @@ Value Between::evaluate(const Scope& scope) const {
   const auto fromLow = order(value, low_->evaluate(scope));
   const auto fromHigh = order(value, high_->evaluate(scope));
   if (!fromLow || !fromHigh) throw LanguageError(position(), "between", "los valores no se pueden comparar");
-  return (*fromLow >= 0 && *fromHigh <= 0) != negated_;
+  return (std::is_gteq(*fromLow) && std::is_lteq(*fromHigh)) != negated_;
 }
 
 }  // namespace motor

@@ -82,25 +82,11 @@ bool like(const Value& left, const Value& right, const Expression& node, Operato
   return LikePattern(*right.text()).matches(left.toText());
 }
 
-bool compare(const Value& left, const Value& right, const Expression& node, Operator op) {
+bool comparison(const Value& left, const Value& right, const Expression& node, Operator op) {
   if (op == Operator::like) return like(left, right, node, op);
-  if (op == Operator::equal || op == Operator::notEqual) {
-    const auto same = equals(left, right);
-    if (!same) reject(node, op, "los valores no se pueden comparar");
-    return *same == (op == Operator::equal);
-  }
-  const auto ordering = order(left, right);
-  if (!ordering) reject(node, op, "los valores no se pueden comparar");
-  switch (op) {
-    case Operator::less:
-      return *ordering < 0;
-    case Operator::lessOrEqual:
-      return *ordering <= 0;
-    case Operator::greater:
-      return *ordering > 0;
-    default:
-      return *ordering >= 0;
-  }
+  const auto result = compare(left, op, right);
+  if (!result) reject(node, op, "los valores no se pueden comparar");
+  return *result;
 }
 
 bool related(SpatialRelation relation, const Value& left, const Value& right, const Expression& node, Operator op,
@@ -156,7 +142,7 @@ Value BinaryOperation::evaluate(const Scope& scope) const {
   }
   const Value right = right_->evaluate(scope);
   if (const auto relation = spatialRelation(op_)) return related(*relation, left, right, *this, op_, scope);
-  if (precedence(op_) == precedence(Operator::equal)) return compare(left, right, *this, op_);
+  if (precedence(op_) == precedence(Operator::equal)) return comparison(left, right, *this, op_);
   return arithmetic(left, right, *this, op_);
 }
 

@@ -16,19 +16,6 @@ int greatestHeight(const ExpressionPtr& value, const std::vector<ExpressionPtr>&
   return height;
 }
 
-bool satisfies(std::weak_ordering ordering, Operator op) {
-  switch (op) {
-    case Operator::less:
-      return ordering < 0;
-    case Operator::lessOrEqual:
-      return ordering <= 0;
-    case Operator::greater:
-      return ordering > 0;
-    default:
-      return ordering >= 0;
-  }
-}
-
 // Takes the literals out of the members.
 ValueSet takeConstants(std::vector<ExpressionPtr>& members) {
   std::vector<Value> values;
@@ -86,14 +73,9 @@ bool SetComparison::holdsWith(const Value& left, const ValueSet& set) const {
 }
 
 bool SetComparison::holds(const Value& left, const Value& member) const {
-  if (op_ == Operator::equal || op_ == Operator::notEqual) {
-    const auto same = equals(left, member);
-    if (!same) rejectComparison();
-    return *same == (op_ == Operator::equal);
-  }
-  const auto ordering = order(left, member);
-  if (!ordering) rejectComparison();
-  return satisfies(*ordering, op_);
+  const auto result = compare(left, op_, member);
+  if (!result) rejectComparison();
+  return *result;
 }
 
 void SetComparison::rejectComparison() const {

@@ -18,7 +18,7 @@ Name parseVariable(TokenStream& stream) {
 std::string parseType(TokenStream& stream) {
   stream.expectWord("as", "As");
   if (stream.peek().kind != Token::Kind::name) stream.failExpecting("un tipo");
-  const std::string type = stream.next().folded;
+  std::string type = stream.next().folded;
   if (stream.acceptSign("*")) static_cast<void>(parseOperand(stream));
   return type;
 }

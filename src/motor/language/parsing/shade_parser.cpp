@@ -62,7 +62,7 @@ ShadeKind parseValues(TokenStream& stream) {
 
 std::string parseBy(TokenStream& stream) {
   const bool isText = stream.peek().kind == Token::Kind::text;
-  const std::string scale = text::lower(stream.peek().text);
+  std::string scale = text::lower(stream.peek().text);
   if (!isText || (scale != "sqrt" && scale != "log" && scale != "const")) {
     stream.failExpecting("\"SQRT\", \"LOG\" o \"CONST\"");
   }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPainter>
+#include <span>
+
+#include "motor/drawing/chart_theme.h"
+
+namespace motor {
+
+// Paints one chart of a theme: the pie or the bars of some values, placed around `at` in logical pixels. Values that
+// are not finite, and negative ones in pies and stacked bars, are left out.
+void paintChart(QPainter& painter, const ChartTheme& theme, std::span<const double> values, QPointF at,
+                double devicePixelRatio);
+
+}  // namespace motor

@@ -1,0 +1,72 @@
+#include <chrono>
+
+#include "motor/tables/select_fixture.h"
+
+namespace motor {
+namespace {
+
+using testing_select::rectangle;
+using testing_select::SelectTest;
+using testing_select::TableBuilder;
+
+// Tables too large to be compared row by row.
+class LargeSelectTest : public SelectTest {
+ protected:
+  static constexpr int kRows = 11'400;
+  static constexpr int kShapes = 100;
+
+  LargeSelectTest() {
+    TableBuilder units({"Nombre", "Valor"});
+    TableBuilder others({"Nombre", "Otro"});
+    std::vector<ObjectPtr> squares;
+    for (int i = 0; i < kShapes; ++i) squares.push_back(rectangle(i, 0, i + 0.9, 1));
+    for (int i = 0; i < kRows; ++i) {
+      const auto shape = static_cast<std::size_t>(i % kShapes);
+      units.row({"Ávila " + std::to_string(i), i}, squares[shape]);
+      others.row({"ÁVILA " + std::to_string(i + 1), i}, squares[shape]);
+    }
+    session_.open("Grande", units.build());
+    session_.open("Otra", others.build());
+  }
+
+  // Milliseconds; a comparison of all with all takes a hundred times as long.
+  static constexpr double kSoon = 2000;
+
+  double millisecondsOf(const std::string& statement, RowId rows) const {
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(session_.select(statement)->rowCount(), rows) << statement;
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+  }
+};
+
+TEST_F(LargeSelectTest, looksSetsUp) {
+  struct Case {
+    const char* where;
+    RowId rows;
+  };
+  const Case cases[] = {
+      {"nombre in (select nombre from otra)", kRows - 1},    {"nombre not in (select nombre from otra)", 1},
+      {"nombre = any (select nombre from otra)", kRows - 1}, {"nombre <> all (select nombre from otra)", 1},
+      {"valor+1 in (select otro from otra)", kRows - 1},     {"nombre >= all (select nombre from otra)", 1},
+      {"valor >= any (select otro from otra)", kRows},
+  };
+  for (const Case& c : cases) {
+    EXPECT_LT(millisecondsOf("select * from grande where " + std::string(c.where), c.rows), kSoon) << c.where;
+  }
+  std::string list = "\"x\"";
+  for (int i = 0; i < kRows; ++i) list += ",\"ÁVILA " + std::to_string(2 * i) + "\"";
+  EXPECT_LT(millisecondsOf("select * from grande where nombre in (" + list + ")", kRows / 2), kSoon);
+}
+
+TEST_F(LargeSelectTest, joinsWhatPasses) {
+  const std::string join = "select valor from grande, otra where ";
+  EXPECT_LT(millisecondsOf(join + "grande.nombre=otra.nombre", kRows - 1), kSoon);
+  EXPECT_LT(millisecondsOf(join + "valor>=0 and otro<100 and grande.obj contains otra.obj", kRows), kSoon);
+  EXPECT_LT(millisecondsOf(join + "grande.obj contains otra.obj and valor=otro", kRows), kSoon);
+  // More than five million pairs of objects, few of which pass.
+  EXPECT_LT(millisecondsOf(join + "otro<500 and valor<10000 and valor+otro=10398", 101), 20 * kSoon);
+  EXPECT_NE(error(join + "valor>=otro").find("demasiado grande"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace motor
