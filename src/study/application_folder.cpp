@@ -1,12 +1,20 @@
 #include "study/application_folder.h"
 
+#include <algorithm>
+#include <array>
 #include <fstream>
 
-#include "study/output_folder.h"
-#include "study/statistics_table.h"
-#include "study/study_error.h"
-#include "study/workspaces.h"
-#include "study/year_tables.h"
+#include "study/methods/figure_book.h"
+#include "study/model/study_error.h"
+#include "study/output/map_workspaces.h"
+#include "study/output/output_folder.h"
+#include "study/output/statistics_table.h"
+#include "study/output/workspace_text.h"
+#include "study/output/year_tables.h"
+#include "study/pages/documents.h"
+#include "study/pages/table_pages.h"
+#include "study/reports/report.h"
+#include "study/thematic/catalogue.h"
 
 namespace study {
 
@@ -14,11 +22,42 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// The program has a button for the reports of these years only.
+constexpr std::array kReportYears{1999, 2000, 2001};
+
+void writeYearMaps(const Study& study, const FigureBook& book, const fs::path& tables, const Progress& progress) {
+  const MapProjection projection = mapProjection(study);
+  for (std::size_t year = 0; year < study.years.size(); ++year) {
+    const std::string name = std::to_string(study.years[year]);
+    progress("maps of " + name);
+    fs::create_directories(tables / name);
+    writeYearTables(study, book, year, tables / name);
+    writeWorkspace(tables / name / ("Año" + name + ".wor"), yearWorkspace(study.years[year], projection));
+  }
+}
+
+void writeStatisticsMap(const Study& study, const fs::path& tables) {
+  const fs::path folder = tables / "Estadisticas";
+  fs::create_directories(folder);
+  writeStatisticsTable(study, folder);
+  writeWorkspace(folder / "Estadisticas.wor", statisticsWorkspace(mapProjection(study)));
+}
+
+void writeReports(const Study& study, const FigureBook& book, const fs::path& documents, const Progress& progress) {
+  fs::create_directories(documents);
+  for (std::size_t year = 0; year < study.years.size(); ++year) {
+    const int number = study.years[year];
+    if (std::find(kReportYears.begin(), kReportYears.end(), number) == kReportYears.end()) continue;
+    progress("report of " + std::to_string(number));
+    writeReport(study, book, year, documents / ("mortalidad_" + std::to_string(number) + ".pdf"));
+  }
+}
+
 void writeMark(const fs::path& folder) {
   std::ofstream mark(folder / kStudyMark, std::ios::binary);
   mark << "Mortalidad en Veldoria 1999-2002\r\n\r\n"
-          "Esta carpeta contiene los datos de un estudio de mortalidad. La región, sus provincias,\r\n"
-          "sus zonas y todas sus cifras son ficticias. La carpeta se puede volver a generar.\r\n";
+          "Esta carpeta contiene los datos de un estudio de mortalidad. Se puede volver a generar:\r\n"
+          "lo que haya en sus carpetas Tablas, Archivos y Ayuda se sustituye entonces.\r\n";
   mark.close();
   if (!mark) throw StudyError("the file " + (folder / kStudyMark).string() + " could not be written");
 }
@@ -26,20 +65,24 @@ void writeMark(const fs::path& folder) {
 }  // namespace
 
 void writeApplicationFolder(const Study& study, const fs::path& folder, const Progress& progress) {
-  const Extent region = extent(study.regionOutline());
+  progress("figures of all units");
+  const FigureBook book(study);
   const fs::path tables = folder / "Tablas";
-  for (int year = kFirstYear; year < kFirstYear + kYears; ++year) {
-    const std::string name = std::to_string(year);
-    progress("maps of " + name);
-    fs::create_directories(tables / name);
-    writeYearTables(study, year, tables / name);
-    writeWorkspace(tables / name / ("Año" + name + ".wor"), yearWorkspace(year, region));
+  try {
+    writeYearMaps(study, book, tables, progress);
+    progress("statistics map");
+    writeStatisticsMap(study, tables);
+    progress("thematic maps");
+    writeCatalogue(study, book, tables);
+    progress("tables");
+    pages::writeTablePages(study, folder);
+    progress("documents");
+    pages::writeDocuments(study, folder);
+    writeReports(study, book, folder / "Archivos", progress);
+    writeMark(folder);
+  } catch (const fs::filesystem_error& error) {
+    throw StudyError(std::string("the study could not be written: ") + error.what());
   }
-  progress("statistics map");
-  fs::create_directories(tables / "Estadisticas");
-  writeStatisticsTable(study, tables / "Estadisticas");
-  writeWorkspace(tables / "Estadisticas" / "Estadisticas.wor", statisticsWorkspace(region));
-  writeMark(folder);
 }
 
 }  // namespace study

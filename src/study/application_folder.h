@@ -1,17 +1,15 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
-#include <string>
 
-#include "study/study.h"
+#include "study/model/progress.h"
+#include "study/model/study.h"
 
 namespace study {
 
-// Told what is being done, a line each.
-using Progress = std::function<void(const std::string& step)>;
-
-// Writes all files of a study's application folder into `folder`, which is empty. Throws StudyError.
+// Writes all files of a study's application folder into `folder`, which is empty: year tables and workspaces, the
+// statistics map, the thematic catalogue, the pages, the documents and the reports. An OffscreenToolkit must exist.
+// Throws StudyError.
 void writeApplicationFolder(const Study& study, const std::filesystem::path& folder, const Progress& progress);
 
 }  // namespace study

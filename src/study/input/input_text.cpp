@@ -1,0 +1,88 @@
+#include "study/input/input_text.h"
+
+#include <algorithm>
+#include <array>
+
+#include "text/file_text.h"
+
+namespace study {
+
+namespace {
+
+// How a character of several bytes begins, and between which values its second byte lies (the Unicode Standard,
+// table 3-7, well-formed UTF-8 byte sequences).
+struct Lead {
+  unsigned char first, last;
+  std::size_t length;
+  unsigned char secondFirst, secondLast;
+};
+constexpr std::array<Lead, 8> kLeads{{{0xC2, 0xDF, 2, 0x80, 0xBF},
+                                      {0xE0, 0xE0, 3, 0xA0, 0xBF},
+                                      {0xE1, 0xEC, 3, 0x80, 0xBF},
+                                      {0xED, 0xED, 3, 0x80, 0x9F},
+                                      {0xEE, 0xEF, 3, 0x80, 0xBF},
+                                      {0xF0, 0xF0, 4, 0x90, 0xBF},
+                                      {0xF1, 0xF3, 4, 0x80, 0xBF},
+                                      {0xF4, 0xF4, 4, 0x80, 0x8F}}};
+
+bool isBetween(char byte, unsigned char first, unsigned char last) {
+  return static_cast<unsigned char>(byte) >= first && static_cast<unsigned char>(byte) <= last;
+}
+
+// The length of the character of several bytes at the beginning; 0: there is none.
+std::size_t longCharacter(std::string_view bytes) {
+  const auto lead = std::find_if(kLeads.begin(), kLeads.end(),
+                                 [&](const Lead& l) { return isBetween(bytes.front(), l.first, l.last); });
+  if (lead == kLeads.end() || bytes.size() < lead->length) return 0;
+  if (!isBetween(bytes[1], lead->secondFirst, lead->secondLast)) return 0;
+  for (std::size_t i = 2; i < lead->length; ++i) {
+    if (!isBetween(bytes[i], 0x80, 0xBF)) return 0;
+  }
+  return lead->length;
+}
+
+}  // namespace
+
+std::optional<std::size_t> firstMalformed(std::string_view bytes) {
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    if (static_cast<unsigned char>(bytes[at]) < 0x80) {
+      ++at;
+      continue;
+    }
+    const std::size_t length = longCharacter(bytes.substr(at));
+    if (length == 0) return at;
+    at += length;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> readText(const std::filesystem::path& folder, const FileFaults& faults) {
+  const std::filesystem::path path = folder / text::toPath(faults.file());
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) {
+    faults.add(FaultKind::missingFile, 0, "the file is missing", "add it to the input folder");
+    return std::nullopt;
+  }
+  std::optional<std::string> text = text::wholeFile(path);
+  if (!text) {
+    faults.add(FaultKind::unreadableFile, 0, "the file cannot be read", "check its permissions");
+    return std::nullopt;
+  }
+  if (text->starts_with("\xEF\xBB\xBF")) text->erase(0, 3);
+  if (const auto malformed = firstMalformed(*text)) {
+    const auto end = text->begin() + static_cast<std::ptrdiff_t>(*malformed);
+    faults.add(FaultKind::notUtf8, static_cast<std::size_t>(std::count(text->begin(), end, '\n')) + 1,
+               "the text is not UTF-8", "save the file with the encoding UTF-8");
+    return std::nullopt;
+  }
+  return text;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+}  // namespace study

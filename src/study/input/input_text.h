@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "study/input/fault_log.h"
+
+namespace study {
+
+// Where the first byte stands that is no UTF-8 (overlong forms and surrogates are none); none: all of it is.
+[[nodiscard]] std::optional<std::size_t> firstMalformed(std::string_view bytes);
+
+// The text of the file `faults.file()` in a folder, without its byte order mark. None, with a fault: there is no such
+// file, it cannot be read, or it is no UTF-8.
+[[nodiscard]] std::optional<std::string> readText(const std::filesystem::path& folder, const FileFaults& faults);
+
+// Without the blanks and tabs at both ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
+}  // namespace study

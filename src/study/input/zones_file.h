@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "study/geometry/polygon.h"
+#include "study/input/fault_log.h"
+
+namespace study {
+
+// A zone as the input's map has it, in metres of the study's projection, mended.
+struct DrawnZone {
+  std::string name;
+  std::string province;
+  Polygons polygons;
+};
+
+struct ZonesFile {
+  std::string name;              // as messages call it; "zones" where there is none
+  std::vector<DrawnZone> zones;  // none where the file cannot be read; none without a name
+  int utmZone = 0;               // negative in the south
+};
+
+// The zones of the one file zones.gpkg, zones.geojson, zones.shp or zones.tab of a folder, transformed to UTM on
+// WGS 84: to the given zone, or to that of the middle of the box around all zones. Faulty zones have no polygons.
+[[nodiscard]] ZonesFile readZones(const std::filesystem::path& folder, std::optional<int> utmZone, FaultLog& log);
+
+}  // namespace study
