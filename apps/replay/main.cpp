@@ -1,7 +1,5 @@
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -11,6 +9,7 @@
 #include "hosts/headless/embedded_engine.h"
 #include "hosts/headless/replay.h"
 #include "hosts/headless/scripted_engine.h"
+#include "text/file_text.h"
 
 namespace {
 
@@ -45,11 +44,11 @@ Arguments parsed(const std::vector<std::string>& words) {
     return words[at++];
   };
   while (at < words.size()) {
-    const std::string word = words[at++];
+    const std::string& word = words[at++];
     if (word == "--app") {
       result.app = value(word);
     } else if (word == "--engine") {
-      const std::string kind = value(word);
+      const std::string& kind = value(word);
       if (kind == "scripted") {
         result.engineFile = value(word);
       } else if (kind != "embedded") {
@@ -70,17 +69,16 @@ Arguments parsed(const std::vector<std::string>& words) {
 }
 
 std::string contentsOf(const std::string& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw std::invalid_argument("cannot read " + file);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  auto bytes = text::wholeFile(file);
+  if (!bytes) throw std::invalid_argument("cannot read " + file);
+  return *std::move(bytes);
 }
 
 // The path that the program is given: absolute, without a separator at its end.
 std::string applicationFolder(const std::string& written) {
   namespace fs = std::filesystem;
   if (!fs::is_directory(written)) throw std::invalid_argument("--app: no folder: " + written);
-  const std::u8string path = fs::canonical(written).u8string();
-  return {path.begin(), path.end()};
+  return text::fromPath(fs::canonical(written));
 }
 
 // Runs the script; what is wrong with a file is said with its name.

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <vector>
 
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace platform {
@@ -25,23 +26,16 @@ std::vector<std::string> namesIn(std::string_view path) {
   return names;
 }
 
-fs::path fromUtf8(const std::string& s) { return fs::path(std::u8string(s.begin(), s.end())); }
-
-std::string toUtf8(const fs::path& path) {
-  const std::u8string s = path.u8string();
-  return {s.begin(), s.end()};
-}
-
 // The name in a folder that `name` means; the first in byte order when several differ from it only by case.
 std::optional<std::string> findName(const std::string& folder, const std::string& name) {
   std::error_code ignored;
-  if (fs::exists(fromUtf8(folder + name), ignored)) return name;
+  if (fs::exists(text::toPath(folder + name), ignored)) return name;
   const std::string wanted = foldedFileName(name);
   std::optional<std::string> best;
   const fs::directory_iterator end;
-  for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : fromUtf8(folder), ignored);
+  for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : text::toPath(folder), ignored);
        !ignored && entry != end; entry.increment(ignored)) {
-    std::string candidate = toUtf8(entry->path().filename());
+    std::string candidate = text::fromPath(entry->path().filename());
     if (foldedFileName(candidate) == wanted && (!best || candidate < *best)) best = std::move(candidate);
   }
   return best;
@@ -61,7 +55,7 @@ fs::path machinePath(std::string_view path) {
     done += found.value_or(names[i]);
     if (i + 1 < names.size()) done += '/';
   }
-  return fromUtf8(done);
+  return text::toPath(done);
 }
 
 std::string foldedFileName(std::string_view name) { return text::lower(text::compose(name)); }

@@ -3,6 +3,7 @@
 #include "atlas/atlas.h"
 #include "atlas/shell/app_paths.h"
 #include "atlas/shell/frm_inicio.h"
+#include "atlas/shell/statistics_workspace.h"
 #include "atlas/thematic/frm_tematicos.h"
 #include "atlas/trap.h"
 
@@ -79,7 +80,7 @@ void FrmPrincipal::Form_Load() {
     if (Ficha.tab() != 3) {
       Ficha.setTab(3);
     } else {
-      atlas_.AbrirMapa(atlas_.ports.applicationFolder + "\\Tablas\\Estadisticas\\Estadisticas.wor");
+      atlas_.AbrirMapa(atlas_.ports.applicationFolder + std::string(kStatisticsWorkspace));
     }
   });
 }

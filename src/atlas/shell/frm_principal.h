@@ -137,6 +137,7 @@ class FrmPrincipal : public forms::Form {
   void DisponerMapa();
   void DisponerInicio();
   void placeTreeSide();
+  void placeBelowTree(forms::Twips consultationsLeft, forms::Twips escudoLeft);
   void placeMap();
   void openHtmlDocument(const std::string& file);
   void openReport(const std::string& file);

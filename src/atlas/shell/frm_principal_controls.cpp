@@ -17,7 +17,9 @@ constexpr forms::Twips kHeaderHeight = 600;  // of the header with the side menu
 constexpr forms::Twips kMenuTop = 30;
 constexpr forms::Twips kTabsTop = 645;
 constexpr forms::Twips kTabsLeft = 150;
-constexpr forms::Twips kMapLeft = kTabsLeft + 250;
+// In the middle of Ficha, whether the map is 500 twips narrower than that (after a resize) or 550 (after a change of
+// tab).
+constexpr forms::Twips kMapLeft = kTabsLeft + 262;
 constexpr forms::Twips kToolRowTop = 400;  // within Ficha, below its headings
 constexpr forms::Twips kToolSize = 360;
 constexpr forms::Twips kToolStep = 405;
@@ -128,7 +130,7 @@ void FrmPrincipal::defineTreeSide() {
 
 void FrmPrincipal::defineConsultations() {
   FichaConsultasDatos.captions = {"Consultas", "Búsquedas"};
-  FichaConsultasDatos.place(10334, 7837, 4400, 2600);
+  FichaConsultasDatos.place(10334, 7937, 4400, 2500);
   FichaConsultasDatos.setVisible(false);
 
   LblProvincias.setCaption("Provincias");
@@ -161,7 +163,7 @@ void FrmPrincipal::defineSearch() {
   txtBuscar.accessibleName = "Lugar que desea buscar";
   txtBuscar.place(150, 870, 4100, 315);
   ListaResultado.accessibleName = "Lugares encontrados";
-  ListaResultado.place(150, 1260, 4100, 1200);
+  ListaResultado.place(150, 1260, 4100, 1100);
   for (forms::Control* control : std::initializer_list<forms::Control*>{&CmbBuscar, &txtBuscar, &ListaResultado}) {
     control->putInto(FichaConsultasDatos, 1);
   }
@@ -181,15 +183,15 @@ void FrmPrincipal::defineTableSelectors() {
        "",
        "Tabla",
        150,
-       7000,
+       6600,
        {"Años de vida potencialmente perdidos  y Tasas de AVPP por provincias",
         "Defunciones y Tasas específicas por provincias", "Distribución de defunciones por provincias",
         "Indicadores principales por provincias", "Indicadores principales por zonas básicas de salud"}},
-      {ComboTipo, "Tipo", "Tipo", 7215, 1950, {"Grandes grupos", "Lista reducida"}},
-      {ComboProvincia, "Provincia", "Provincia", 9230, 2000,
+      {ComboTipo, "Tipo", "Tipo", 6815, 1950, {"Grandes grupos", "Lista reducida"}},
+      {ComboProvincia, "Provincia", "Provincia", 8830, 2000,
        catalogueFrames(atlas_.ports.files, atlas_.ports.applicationFolder)},
-      {ComboSexo, "Sexo", "Sexo", 11295, 1650, {"Ambos sexos", "Mujeres", "Hombres"}},
-      {ComboAño, "Año", "Año", 13010, 1000, {"1999", "2000", "2001", "2002"}},
+      {ComboSexo, "Sexo", "Sexo", 10895, 1650, {"Ambos sexos", "Mujeres", "Hombres"}},
+      {ComboAño, "Año", "Año", 12610, 1000, {"1999", "2000", "2001", "2002"}},
   };
   for (const Selector& selector : selectors) {
     for (const std::string& item : selector.items) selector.combo.addItem(item);
@@ -203,11 +205,11 @@ void FrmPrincipal::defineTableSelectors() {
   imgBuscaTabla.toolTipText = "Ver la Tabla";
   imgBuscaTabla.picture = "ver-tabla";
   imgBuscaTabla.putInto(Ficha, 0);
-  imgBuscaTabla.place(14090, kToolRowTop, kToolSize, kToolSize);
+  imgBuscaTabla.place(13675, kToolRowTop, kToolSize, kToolSize);
   ImgExportar.toolTipText = "Exportar Tabla";
   ImgExportar.picture = "exportar";
   ImgExportar.putInto(Ficha, 0);
-  ImgExportar.place(14090 + kToolStep, kToolRowTop, kToolSize, kToolSize);
+  ImgExportar.place(13675 + kToolStep, kToolRowTop, kToolSize, kToolSize);
 }
 
 void FrmPrincipal::defineToolbars() {
@@ -224,7 +226,7 @@ void FrmPrincipal::defineToolbars() {
   lblVeldoria.setCaption("Haga clic en el fondo del mapa para ver la información de Veldoria.");
   lblVeldoria.font.points = 7.5;
   lblVeldoria.putInto(Ficha, 3);
-  lblVeldoria.place(150 + 10 * kToolStep + 90, kToolRowTop - 5, 5400, 375);
+  lblVeldoria.place(150 + 10 * kToolStep + 90, kToolRowTop - 5, 5100, 375);
   lblVeldoria.setVisible(false);
 }
 

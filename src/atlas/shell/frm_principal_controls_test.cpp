@@ -65,8 +65,8 @@ TEST_F(Controls, EachTabHoldsItsOwnPage) {
 }
 
 TEST_F(Controls, ControlsOfAPageStayInsideItAtTheSmallestSize) {
-  constexpr double kFichaOnTheTables = 15360 - 150 - 300;
-  constexpr double kFichaOnMapTabs = 9830.4;
+  constexpr double kFichaOnTheTables = 15000 - 150 - 300;
+  constexpr double kFichaOnMapTabs = 15000 * 0.64;
   for (const forms::Control* control : main().controls()) {
     if (control->container() != &main().Ficha) continue;
     const double room = control->page() == 0 ? kFichaOnTheTables : kFichaOnMapTabs;

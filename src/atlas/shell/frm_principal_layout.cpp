@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "atlas/atlas.h"
 #include "atlas/shell/frm_principal.h"
 #include "atlas/thematic/selector_window.h"
@@ -10,6 +12,10 @@ namespace {
 // The engine's unit of window sizes in twips, and the margin that it adds.
 constexpr double kTwipsPerEngineUnit = 1063.46894701793;
 constexpr double kEngineMargin = 3;
+
+constexpr forms::Twips kWindowFrame = 380;  // about what the frame takes of H
+constexpr forms::Twips kSkirt = 200;        // by which the cards of tab controls reach below these
+constexpr forms::Twips kBelowCard = 45;
 
 std::string inEngineUnits(forms::Twips length) { return text::number(length / kTwipsPerEngineUnit - kEngineMargin); }
 
@@ -81,10 +87,21 @@ void FrmPrincipal::placeTreeSide() {
   txtespere1.setTop(TreeView1.top() + (TreeView1.height() - txtespere1.height()) / 2);
   lblComando.setTop(txtEspere.top() + txtEspere.height() + 60);
   lblComando.setLeft(txtEspere.left() + 180);
-  ImageEscudo.setTop(Ficha.top() + Ficha.height() + 230);
-  ImageEscudo.setLeft(centredOnShape(ImageEscudo));
-  FichaConsultasDatos.setTop(Ficha.top() + Ficha.height() - FichaConsultasDatos.height());
-  FichaConsultasDatos.setLeft(centredOnShape(FichaConsultasDatos));
+  placeBelowTree(centredOnShape(FichaConsultasDatos), centredOnShape(ImageEscudo));
+}
+
+// The consultations end where Ficha does, but begin below the tree's card. The coat of arms has what is left below
+// both; where that is too little for it, it is put out of sight.
+void FrmPrincipal::placeBelowTree(forms::Twips consultationsLeft, forms::Twips escudoLeft) {
+  const forms::Twips fichaEnd = Ficha.top() + Ficha.height();
+  const forms::Twips belowTree = ShpDerecha.top() + ShpDerecha.height() + kBelowCard;
+  const forms::Twips consultationsTop = std::max(fichaEnd - FichaConsultasDatos.height(), belowTree);
+  const forms::Twips end = std::max(fichaEnd, consultationsTop + FichaConsultasDatos.height()) + kSkirt;
+  const forms::Twips spare = height() - kWindowFrame - end - ImageEscudo.height();
+  ImageEscudo.setTop(spare < 0 ? height() : end + spare / 2);
+  ImageEscudo.setLeft(escudoLeft);
+  FichaConsultasDatos.setTop(consultationsTop);
+  FichaConsultasDatos.setLeft(consultationsLeft);
 }
 
 void FrmPrincipal::layOutMap() {

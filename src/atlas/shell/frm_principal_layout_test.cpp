@@ -22,9 +22,9 @@ TEST_F(Layout, MapTabsAt20000By10000) {
   expectPlace(f.ShpFondo, 0, 0, 13200, 10000);
   expectPlace(f.Ficha, 150, 645, 12800, 8500);
   expectPlace(f.FichaAños, 10150, 645, 2800, 390);
-  expectPlace(f.PictureMapa, 400, 1415, 12300, 7700);
-  expectPlace(f.Panel, 400, 1415, 12300, 7700);
-  expectPlace(f.ProgressBar1, 400, 8860, 12300, 255);
+  expectPlace(f.PictureMapa, 412, 1415, 12300, 7700);
+  expectPlace(f.Panel, 412, 1415, 12300, 7700);
+  expectPlace(f.ProgressBar1, 412, 8860, 12300, 255);
   expectPlace(f.ShpDerecha, 13200, 645, 6000, 6080);
   EXPECT_DOUBLE_EQ(f.Image1.left(), 13400);
   expectPlace(f.TreeView1, 13300, 705, 5785, 5580);
@@ -34,9 +34,38 @@ TEST_F(Layout, MapTabsAt20000By10000) {
   EXPECT_DOUBLE_EQ(f.lblComando.left(), 13480);
   EXPECT_DOUBLE_EQ(f.lblComando.top(), 6345);
   EXPECT_DOUBLE_EQ(f.ImageEscudo.left() + f.ImageEscudo.width() / 2, 16200);
-  EXPECT_DOUBLE_EQ(f.ImageEscudo.top(), 9375);
-  expectPlace(f.FichaConsultasDatos, 14000, 6545, 4400, 2600);
+  expectPlace(f.FichaConsultasDatos, 14000, 6770, 4400, 2500);
+  EXPECT_DOUBLE_EQ(f.ImageEscudo.top(), 10000) << "there is no room for it";
   expectPlace(f.Internet, 425, 1435, 12250, 7680);
+}
+
+// The smallest windows, with a frame of 40 pixels and without one, and two usual ones.
+TEST_F(Layout, NothingOverlapsOnAnySize) {
+  struct Size {
+    double width, height, frame;
+  };
+  start();
+  const FrmPrincipal& f = main();
+  for (const Size& size : {Size{15000, 10200, 0}, Size{15240, 10800, 600}, Size{15360, 11520, 400},
+                           Size{18855, 11520, 400}, Size{26490, 14955, 400}}) {
+    SCOPED_TRACE(size.height);
+    main().userResize(size.width, size.height);
+    const auto bottom = [](const forms::Control& control) { return control.top() + control.height(); };
+    const auto right = [](const forms::Control& control) { return control.left() + control.width(); };
+    EXPECT_LE(right(f.LblSalir), f.Image1.left());
+    EXPECT_LE(right(f.Ficha), f.ShpDerecha.left());
+    EXPECT_LE(right(f.ShpDerecha), size.width);
+    EXPECT_GE(f.TreeView1.height(), 5000);
+    EXPECT_LE(bottom(f.TreeView1), f.lblComando.top());
+    EXPECT_LE(bottom(f.lblComando), bottom(f.ShpDerecha));
+    EXPECT_LE(bottom(f.ShpDerecha), f.FichaConsultasDatos.top());
+    const double cards = std::max(bottom(f.Ficha), bottom(f.FichaConsultasDatos)) + 180;
+    EXPECT_LE(cards, size.height - size.frame);
+    EXPECT_LE(cards, f.ImageEscudo.top());
+    const bool isSeenWhole = bottom(f.ImageEscudo) <= size.height - size.frame;
+    EXPECT_TRUE(isSeenWhole || f.ImageEscudo.top() == size.height);
+    EXPECT_TRUE(isSeenWhole || size.height < 10900);
+  }
 }
 
 TEST_F(Layout, TellsTheEngineTheMapsSizeInItsUnits) {
@@ -54,9 +83,9 @@ TEST_F(Layout, TablesTabFillsTheWindowAndSendsNothing) {
   const FrmPrincipal& f = main();
   expectPlace(f.ShpFondo, 0, 0, 20000, 10000);
   expectPlace(f.Ficha, 150, 645, 19550, 8655);
-  expectPlace(f.PictureMapa, 400, 1415, 19050, 7855);
-  expectPlace(f.Panel, 400, 1415, 19050, 7855);
-  expectPlace(f.ProgressBar1, 400, 9015, 19050, 255);
+  expectPlace(f.PictureMapa, 412, 1415, 19050, 7855);
+  expectPlace(f.Panel, 412, 1415, 19050, 7855);
+  expectPlace(f.ProgressBar1, 412, 9015, 19050, 255);
   expectPlace(f.ShpDerecha, 13200, 645, 6000, 6080);
   expectPlace(f.TreeView1, 13300, 705, 5785, 5580);
   expectPlace(f.Internet, 425, 1435, 19000, 7835);

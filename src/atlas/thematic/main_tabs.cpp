@@ -1,5 +1,6 @@
 #include "atlas/atlas.h"
 #include "atlas/shell/frm_principal.h"
+#include "atlas/shell/statistics_workspace.h"
 #include "atlas/thematic/catalogue.h"
 #include "atlas/thematic/selector_window.h"
 #include "atlas/trap.h"
@@ -63,7 +64,7 @@ std::string FrmPrincipal::showTab() {
       return folder + "\\Tablas\\" + year() + "\\Año" + year() + ".wor";
     default:
       showStatisticsMap();
-      return folder + "\\Tablas\\Estadisticas\\Estadisticas.wor";
+      return folder + std::string(kStatisticsWorkspace);
   }
 }
 

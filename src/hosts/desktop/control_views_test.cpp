@@ -236,6 +236,62 @@ TEST_F(ControlViews, TreeShowsNodesAndRemembersWhatTheUserOpens) {
   EXPECT_EQ(tree.topLevelItemCount(), 0);
 }
 
+TEST_F(ControlViews, TreeOpensAgainWhatTheUserHadOpened) {
+  auto& tree = widget<QTreeWidget>(form.tree);
+  const auto fill = [this](bool programOpens) -> forms::Node& {
+    form.tree.clear();
+    forms::Node& root = form.tree.add(nullptr, "Brisa", {});
+    forms::Node& sex = form.tree.add(&root, "Hombres", {});
+    form.tree.add(&sex, "Población: 1.234", {});
+    form.tree.add(&root, "Mujeres", {});
+    root.setExpanded(programOpens);
+    return sex;
+  };
+  fill(true);
+  QTreeWidgetItem* root = tree.topLevelItem(0);
+  tree.setCurrentItem(root->child(0));
+  QTest::keyClick(&tree, Qt::Key_Right);
+  EXPECT_TRUE(root->child(0)->isExpanded());
+  EXPECT_TRUE(fill(true).expanded());
+  root = tree.topLevelItem(0);
+  EXPECT_TRUE(root->child(0)->isExpanded());
+  EXPECT_FALSE(root->child(1)->isExpanded());
+  // What the user closes stays closed, but where the program opens it.
+  tree.setCurrentItem(root->child(0));
+  QTest::keyClick(&tree, Qt::Key_Left);
+  tree.setCurrentItem(root);
+  QTest::keyClick(&tree, Qt::Key_Left);
+  EXPECT_FALSE(root->isExpanded());
+  EXPECT_FALSE(fill(true).expanded());
+  EXPECT_TRUE(tree.topLevelItem(0)->isExpanded());
+  EXPECT_FALSE(fill(false).parent()->expanded());
+}
+
+TEST_F(ControlViews, AVeilLiftsWhenTheHandlerThatLeftItReturns) {
+  calls.run([this] {
+    form.veil.setVisible(true);
+    EXPECT_TRUE(widget(form.veil).isVisible());
+  });
+  EXPECT_TRUE(form.veil.visible());
+  EXPECT_FALSE(widget(form.veil).isVisible());
+  calls.run([this] {
+    EXPECT_FALSE(widget(form.veil).isVisible());
+    form.veil.setVisible(true);
+    EXPECT_TRUE(widget(form.veil).isVisible());
+  });
+}
+
+TEST_F(ControlViews, AnOpenListIsCappedAndWideEnough) {
+  for (int i = 0; i < 60; ++i)
+    form.drop.addItem("Una zona básica de salud con un nombre muy largo " + std::to_string(i));
+  auto& combo = widget<QComboBox>(form.drop);
+  combo.showPopup();
+  hands::settle();
+  EXPECT_LE(combo.view()->viewport()->height(), 15 * combo.view()->sizeHintForRow(0) + 4);
+  EXPECT_GE(combo.view()->viewport()->width(), combo.view()->sizeHintForColumn(0));
+  combo.hidePopup();
+}
+
 TEST_F(ControlViews, CommandButtonAndProgressBar) {
   QTest::mouseClick(&widget(form.button), Qt::LeftButton);
   EXPECT_EQ(form.take(), (Events{"button click"}));

@@ -5,11 +5,16 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include "atlas/shell/frm_inicio.h"
+#include "atlas/shell/statistics_workspace.h"
+#include "hosts/desktop/rehearsal.h"
 #include "hosts/desktop/theme.h"
 #include "platform/paths.h"
 
 namespace desktop {
 namespace {
+
+constexpr int kSplashIsShown = 100;  // milliseconds after it is asked for
 
 // The user's own number signs; Spanish ones where the desktop has no language of its own.
 motor::SessionOptions engineOptions(const std::string& applicationFolder) {
@@ -27,6 +32,7 @@ motor::SessionOptions engineOptions(const std::string& applicationFolder) {
 void prepareApplication(QApplication& application) {
   QApplication::setApplicationName(QStringLiteral("Mortalidad en Veldoria 1999-2002"));
   QApplication::setQuitOnLastWindowClosed(false);  // the program says when it is over
+  QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
   auto* spanish = new QTranslator(&application);
   if (spanish->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(spanish);
@@ -60,6 +66,15 @@ DesktopProgram::~DesktopProgram() {
 
 void DesktopProgram::start() {
   calls_.run([this] { atlas_->Main(); });
+  rehearsal_.setSingleShot(true);
+  QObject::connect(&rehearsal_, &QTimer::timeout, &rehearsal_, [this] {
+    const std::string& folder = atlas_->ports.applicationFolder;
+    if (atlas_->frmInicio().isLoaded()) {
+      rehearse(platform::machinePath(folder + std::string(atlas::kStatisticsWorkspace)).string(),
+               engineOptions(folder));
+    }
+  });
+  rehearsal_.start(kSplashIsShown);
 }
 
 }  // namespace desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -20,7 +21,8 @@ class QApplication;
 
 namespace desktop {
 
-// The application's name, look and words, for every program that shows the atlas.
+// The application's name, look and words, for every program that shows the atlas. The toolkit's own dialogs speak
+// Spanish whatever the desktop's language; the number signs of the maps stay the desktop's.
 void prepareApplication(QApplication& application);
 
 // The program on the user's desktop: the atlas, its windows and the embedded map engine.
@@ -55,6 +57,7 @@ class DesktopProgram {
   QtPrograms programs_;
   QtDialogs dialogs_;
   std::unique_ptr<atlas::Atlas> atlas_;
+  QTimer rehearsal_;  // while the splash is shown
   bool over_ = false;
 };
 

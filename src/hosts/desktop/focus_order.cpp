@@ -1,76 +1,164 @@
 #include "hosts/desktop/focus_order.h"
 
+#include <QRadioButton>
 #include <algorithm>
 #include <tuple>
 
 #include "hosts/desktop/views/link_label.h"
+#include "hosts/desktop/views/tab_pages.h"
 
 namespace desktop {
 namespace {
 
 constexpr int kRow = 10;  // pixels within which tops count as one row
 
-struct Place {
-  int row, left;  // of the widget, or of the menu entry that it hangs from
-  bool hangs;
-  int ownRow, ownLeft;
+enum class Zone { pages, beside, menu };
 
-  [[nodiscard]] auto key() const { return std::tuple(row, left, hangs, ownRow, ownLeft); }
+struct Place {
+  Zone zone;
+  int top, left;  // of the widget, or of the menu entry that it hangs from
+  bool hangs;
+  int ownTop, ownLeft;
+  int row = 0;
+
+  [[nodiscard]] auto byTop() const { return std::tuple(zone, top); }
+  [[nodiscard]] auto key() const { return std::tuple(zone, row, left, hangs, ownTop, ownLeft); }
 };
+
+struct Placed {
+  Place place;
+  QWidget* widget;
+};
+
+template <class Widget>
+QList<Widget*> onWindow(const QWidget& window) {
+  QList<Widget*> found;
+  for (QObject* child : window.children()) {
+    if (auto* widget = dynamic_cast<Widget*>(child)) found.append(widget);
+  }
+  return found;
+}
+
+const QWidget& standsIn(const QWidget& widget, const QWidget& window) {
+  const QWidget* at = &widget;
+  while (at->parentWidget() != &window) at = at->parentWidget();
+  return *at;
+}
+
+bool isPassedBy(const QWidget& widget) {
+  const auto* option = qobject_cast<const QRadioButton*>(&widget);
+  if (option == nullptr || option->isChecked()) return false;
+  const auto options = option->parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+  return std::ranges::any_of(options, [](const QRadioButton* other) { return other->isChecked(); });
+}
+
+// Whether pages that lie over it hide the widget altogether.
+bool isCovered(const QWidget& widget, const QWidget& window) {
+  const QWidget& standing = standsIn(widget, window);
+  const auto order = window.children();
+  const auto height = order.indexOf(&standing);
+  return std::ranges::any_of(onWindow<TabPages>(window), [&](const TabPages* pages) {
+    return order.indexOf(pages) > height && pages->isVisibleTo(&window) &&
+           pages->geometry().contains(standing.geometry());
+  });
+}
 
 bool takesKeyboard(const QWidget& widget, const QWidget& window) {
   const bool byTab = (widget.focusPolicy() & Qt::TabFocus) != 0;
-  return byTab && widget.focusProxy() == nullptr && widget.isEnabled() && widget.isVisibleTo(&window) &&
-         widget.window() == &window;
+  return byTab && widget.focusProxy() == nullptr && canHaveKeyboard(widget, window) && !isPassedBy(widget) &&
+         !isCovered(widget, window);
 }
 
-// The menu entry at whose lower edge the frame around `widget` begins, or null.
-const QWidget* menuEntryAbove(const QWidget& widget, const QWidget& window) {
-  const QWidget* frame = widget.parentWidget();
-  if (frame == nullptr || frame->parentWidget() != &window) return nullptr;
-  const QRect place = frame->geometry();
-  for (const LinkLabel* entry : window.findChildren<LinkLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+// The menu entry itself, or the one at whose lower edge the frame around `widget` begins, or null.
+const QWidget* menuEntryOf(const QWidget& widget, const QWidget& window) {
+  const QWidget& standing = standsIn(widget, window);
+  if (dynamic_cast<const LinkLabel*>(&standing) != nullptr) return &standing;
+  const QRect place = standing.geometry();
+  for (const LinkLabel* entry : onWindow<LinkLabel>(window)) {
     const QRect above = entry->geometry();
     const bool touches =
         qAbs(above.bottom() - place.top()) <= kRow && above.left() <= place.right() && place.left() <= above.right();
-    if (touches) return entry;
+    if (touches && dynamic_cast<const LinkLabel*>(&widget) != nullptr) return entry;
   }
   return nullptr;
 }
 
+// Where the largest pages end; everything stands left of it when there are none.
+int rightEdgeOfPages(const QWidget& window) {
+  const auto area = [](const TabPages* pages) { return pages->width() * pages->height(); };
+  const auto all = onWindow<TabPages>(window);
+  const auto largest = std::ranges::max_element(all, {}, area);
+  return largest == all.end() ? window.width() : (*largest)->geometry().right();
+}
+
 Place placeOf(const QWidget& widget, const QWidget& window) {
   const QPoint own = widget.mapTo(&window, QPoint());
-  Place place{own.y() / kRow, own.x(), false, own.y(), own.x()};
-  if (const QWidget* entry = menuEntryAbove(widget, window)) {
+  if (const QWidget* entry = menuEntryOf(widget, window)) {
     const QPoint at = entry->mapTo(&window, QPoint());
-    place.row = at.y() / kRow;
-    place.left = at.x();
-    place.hangs = true;
+    return {Zone::menu, at.y(), at.x(), entry != &widget, own.y(), own.x()};
   }
-  return place;
+  const Zone zone = own.x() < rightEdgeOfPages(window) ? Zone::pages : Zone::beside;
+  return {zone, own.y(), own.x(), false, own.y(), own.x()};
+}
+
+// Puts them in reading order. A row begins at its highest widget.
+void sortByReading(std::vector<Placed>& all) {
+  std::ranges::stable_sort(all, {}, [](const Placed& one) { return one.place.byTop(); });
+  const Place* first = nullptr;
+  int row = 0;
+  for (Placed& one : all) {
+    if (first == nullptr || one.place.zone != first->zone || one.place.top - first->top >= kRow) {
+      first = &one.place;
+      ++row;
+    }
+    one.place.row = row;
+  }
+  std::ranges::stable_sort(all, {}, [](const Placed& one) { return one.place.key(); });
+}
+
+std::vector<QWidget*> sorted(const QWidget& window, const std::vector<QWidget*>& widgets) {
+  std::vector<Placed> all;
+  for (QWidget* widget : widgets) all.push_back({placeOf(*widget, window), widget});
+  sortByReading(all);
+  std::vector<QWidget*> order;
+  for (const Placed& one : all) order.push_back(one.widget);
+  return order;
 }
 
 }  // namespace
 
+bool canHaveKeyboard(const QWidget& widget, const QWidget& window) {
+  return widget.isEnabled() && widget.isVisibleTo(&window) && widget.window() == &window;
+}
+
 std::vector<QWidget*> readingOrder(const QWidget& window) {
-  std::vector<std::pair<Place, QWidget*>> found;
+  std::vector<QWidget*> found;
   for (QWidget* widget : window.findChildren<QWidget*>()) {
-    if (takesKeyboard(*widget, window)) found.emplace_back(placeOf(*widget, window), widget);
+    if (takesKeyboard(*widget, window)) found.push_back(widget);
   }
-  std::ranges::stable_sort(found, {}, [](const auto& entry) { return entry.first.key(); });
-  std::vector<QWidget*> order;
-  for (const auto& [place, widget] : found) order.push_back(widget);
-  return order;
+  return sorted(window, found);
 }
 
 QWidget* nextInReadingOrder(const QWidget& window, const QWidget* from, bool next) {
-  const std::vector<QWidget*> order = readingOrder(window);
+  std::vector<QWidget*> order = readingOrder(window);
   if (order.empty()) return nullptr;
-  const auto at = std::ranges::find(order, from);
-  if (at == order.end()) return next ? order.front() : order.back();
-  const auto index = static_cast<std::size_t>(at - order.begin());
+  auto* start = const_cast<QWidget*>(from);
+  const bool isHere = start != nullptr && start != &window && window.isAncestorOf(start);
+  if (!isHere) return next ? order.front() : order.back();
+  if (std::ranges::find(order, start) == order.end()) {
+    order.push_back(start);
+    order = sorted(window, order);
+  }
+  const auto index = static_cast<std::size_t>(std::ranges::find(order, start) - order.begin());
   const std::size_t step = next ? 1 : order.size() - 1;
   return order[(index + step) % order.size()];
+}
+
+QWidget* firstChoice(const QWidget& window) {
+  const std::vector<QWidget*> order = readingOrder(window);
+  const auto onlyChooses = [](const QWidget* widget) { return dynamic_cast<const PointedButton*>(widget) == nullptr; };
+  const auto found = std::ranges::find_if(order, onlyChooses);
+  return found == order.end() ? nullptr : *found;
 }
 
 }  // namespace desktop

@@ -36,7 +36,9 @@ FormWindow::FormWindow(forms::Form& form, ProgramCalls& calls, QWidget* owner)
     : QWidget(lookOf(form) == FormLook::palette ? owner : nullptr, flagsOf(lookOf(form))),
       form_(form),
       calls_(calls),
-      look_(lookOf(form)) {
+      look_(lookOf(form)),
+      popUps_(
+          *this, form, [this](const QWidget& widget) { return controlOf(widget); }, [this] { pointAtForm(); }) {
   setObjectName(QString::fromStdString(form.name()));
   setWindowTitle(QString::fromStdString(form.caption()));
   setWindowIcon(artwork::icon("escudo"));
@@ -64,6 +66,19 @@ void FormWindow::makeViews() {
 ControlView* FormWindow::viewOf(const forms::Control& control) const {
   const auto found = viewOf_.find(&control);
   return found == viewOf_.end() ? nullptr : found->second;
+}
+
+const forms::Control* FormWindow::controlOf(const QWidget& widget) const {
+  for (const QWidget* at = &widget; at != nullptr && at != this; at = at->parentWidget()) {
+    const auto shows = [at](const auto& view) { return view->widget() == at; };
+    const auto found = std::ranges::find_if(views_, shows);
+    if (found != views_.end()) return &(*found)->control();
+  }
+  return nullptr;
+}
+
+void FormWindow::visibilityWritten(const forms::Control& control) {
+  if (isPopUp(control)) popUps_.update();
 }
 
 void FormWindow::syncForm(forms::Property property) {
@@ -101,6 +116,7 @@ void FormWindow::syncChoices() {
   using enum forms::Property;
   for (const auto& view : views_) {
     for (const auto property : {ListIndex, Value, SelectedItem, Tab}) view->sync(property);
+    view->callReturned();
   }
 }
 
@@ -128,6 +144,17 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (!isListening()) return event->accept();
   event->ignore();
   calls_.runWhenFree([this] { form_.userClose(); });
+}
+
+void FormWindow::closeWithOwner() {
+  calls_.runWhenFree([&form = form_] { form.userClose(); });
+}
+
+// The keyboard begins where nothing is started by a key pressed too early.
+void FormWindow::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (focusWidget() != nullptr) return;
+  if (QWidget* first = firstChoice(*this)) first->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
@@ -181,6 +208,10 @@ void FormWindow::paintEvent(QPaintEvent*) {
 
 void FormWindow::mouseMoveEvent(QMouseEvent* event) {
   if (childAt(event->position().toPoint()) != nullptr) return;  // passed on by a control
+  pointAtForm();
+}
+
+void FormWindow::pointAtForm() {
   if (isListening() && form_.MouseMove.hasHandlers()) calls_.run([this] { form_.userMouseMove(); });
 }
 
@@ -188,14 +219,26 @@ void FormWindow::mouseDoubleClickEvent(QMouseEvent*) {
   if (isListening()) calls_.run([this] { form_.userDoubleClick(); });
 }
 
-// Escape takes the pointer off whatever it opened.
+// Escape closes a palette, and elsewhere takes the pointer off whatever it opened.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && isListening()) return calls_.run([this] { form_.userMouseMove(); });
-  QWidget::keyPressEvent(event);
+  if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
+  if (look_ == FormLook::palette) {
+    close();
+  } else {
+    pointAtForm();
+  }
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {
-  QWidget* target = nextInReadingOrder(*this, focusWidget(), next);
+  QWidget* from = focusWidget();
+  if (from != nullptr && from != this && !canHaveKeyboard(*from, *this)) {
+    // Hidden or disabled under the user's hands: what comes next is not what the user means.
+    lostKeyboard_ = from;
+    setFocus(Qt::OtherFocusReason);
+    return true;
+  }
+  if (from == nullptr || from == this) from = lostKeyboard_;
+  QWidget* target = nextInReadingOrder(*this, from, next);
   if (target == nullptr) return QWidget::focusNextPrevChild(next);
   target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
   return true;

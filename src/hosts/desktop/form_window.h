@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -7,6 +8,7 @@
 
 #include "forms/form.h"
 #include "hosts/desktop/looks.h"
+#include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/views/control_view.h"
 
 namespace desktop {
@@ -28,12 +30,17 @@ class FormWindow : public QWidget {
   void turnPages();
   // Shows what the user's own action changed in the model.
   void syncChoices();
+  // A control has been shown or hidden.
+  void visibilityWritten(const forms::Control& control);
+  // The window goes because its owner goes.
+  void closeWithOwner();
   // Paints at once what the view shows, without an event loop; all but the map where the view has just appeared.
   void paintNow(const ControlView& view, forms::Property written);
   void markCurrentTool(const std::string& command);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -45,6 +52,9 @@ class FormWindow : public QWidget {
 
  private:
   void makeViews();
+  // The control that a widget of this window shows, or null.
+  [[nodiscard]] const forms::Control* controlOf(const QWidget& widget) const;
+  void pointAtForm();
   void reportSize();
   void reportPlace();
   [[nodiscard]] bool isListening() const { return form_.isLoaded(); }
@@ -54,6 +64,8 @@ class FormWindow : public QWidget {
   FormLook look_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::map<const forms::Control*, ControlView*> viewOf_;
+  PopUpMenus popUps_;
+  QPointer<QWidget> lostKeyboard_;  // what had the keyboard when it was hidden or disabled
   bool sizeReported_ = true;
   bool reportsPlace_ = false;
   bool wasMinimized_ = false;

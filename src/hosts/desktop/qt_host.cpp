@@ -62,7 +62,11 @@ void QtHost::place(FormWindow& window) const {
   const QSize stored(toPixels(form.width()), toPixels(form.height()));
   QRect place =
       firstPlace(lookOf(form), stored, screen == nullptr ? QRect(QPoint(), stored) : screen->availableGeometry());
-  if (firstSize_ && lookOf(form) == FormLook::window) place = QRect(QPoint(), *firstSize_);
+  if (firstSize_ && lookOf(form) == FormLook::window) {
+    place = QRect(QPoint(), *firstSize_);
+  } else {
+    window.setMinimumSize(smallestSize(lookOf(form)));
+  }
   window.move(place.topLeft());
   window.resize(place.size());
   form.setLeft(toTwips(place.left()));
@@ -82,9 +86,13 @@ void QtHost::formHidden(forms::Form& form) {
   if (FormWindow* window = windowOf(form)) window->hide();
 }
 
-// The window may be in the middle of an event of its own, so it goes when that is done.
+// The window may be in the middle of an event of its own, so it goes when that is done. A palette goes with the window
+// that it lies in front of.
 void QtHost::formUnloaded(forms::Form& form) {
   if (FormWindow* window = windowOf(form)) {
+    for (const auto& [other, palette] : windows_) {
+      if (palette != nullptr && palette->parentWidget() == window) palette->closeWithOwner();
+    }
     window->hide();
     window->deleteLater();
   }
@@ -99,6 +107,7 @@ void QtHost::written(forms::Control& control, forms::Property property) {
   ControlView* view = window->viewOf(control);
   if (view == nullptr) return;
   view->sync(property);
+  if (property == forms::Property::Visible) window->visibilityWritten(control);
   if (const auto* label = dynamic_cast<const forms::Label*>(&control)) {
     if (property == forms::Property::Caption && control.name() == kCommandLabel) {
       window->markCurrentTool(label->caption());

@@ -19,7 +19,7 @@ class QtHost : public forms::Listener {
   QtHost(ProgramCalls& calls, motor::WidgetHandles& handles);
   ~QtHost() override;
 
-  // The working window's first size, frame included, instead of most of the screen.
+  // The working window's first size instead of most of the screen; it may be made as small as one likes.
   void setFirstSize(QSize size) { firstSize_ = size; }
   // The window of a form that is loaded, or null.
   [[nodiscard]] FormWindow* windowOf(const forms::Form& form) const;

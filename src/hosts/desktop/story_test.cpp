@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QTemporaryDir>
@@ -15,6 +16,7 @@
 
 #include "atlas/shell/frm_inicio.h"
 #include "atlas/shell/frm_principal.h"
+#include "atlas/thematic/frm_tematicos.h"
 #include "hosts/desktop/desktop_program.h"
 #include "hosts/desktop/tour.h"
 #include "hosts/desktop/user_hands.h"
@@ -121,6 +123,49 @@ TEST_F(Story, AProvinceAZoneAnotherYear) {
 
   program->host().windowOf(form())->close();
   EXPECT_TRUE(program->isOver());
+}
+
+TEST_F(Story, ResultsAreShownInWholeRows) {
+  startByDoubleClick();
+  clickTab("Ficha", 2);
+  clickTab("FichaConsultasDatos", 1);
+  for (int i = 0; i < 9; ++i) form().ListaResultado.addItem("Lugar " + std::to_string(i));
+  hands::settle();
+  const auto& list = widget<QListWidget>("ListaResultado");
+  EXPECT_GE(list.viewport()->height(), 4 * list.sizeHintForRow(0));
+  EXPECT_EQ(list.viewport()->height() % list.sizeHintForRow(0), 0);
+  EXPECT_LT(list.geometry().bottom(), list.parentWidget()->height());
+}
+
+TEST_F(Story, WithoutACatalogueTheProgramStillEnds) {
+  startByDoubleClick();
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, &answers, [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->buttons().constFirst()->click();
+  });
+  answers.start(10);
+  clickTab("Ficha", 1);
+  QTest::mouseClick(&widget("Image2(10)"), Qt::LeftButton);
+  hands::settle();
+  ASSERT_TRUE(program->atlas().frmTematicos().isLoaded());
+  QTest::mouseClick(&widget("LblSalir"), Qt::LeftButton);
+  hands::settle();
+  EXPECT_TRUE(program->isOver());
+}
+
+TEST_F(Story, WithoutACatalogueTheMapIsNotVeiledForGood) {
+  startByDoubleClick();
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, &answers, [] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->buttons().constFirst()->click();
+  });
+  answers.start(10);
+  clickTab("Ficha", 1);
+  clickTab("FichaAños", 1);
+  clickTab("Ficha", 0);
+  clickTab("Ficha", 2);
+  EXPECT_TRUE(form().Panel.visible());  // as the year's handler leaves it where no map is open
+  EXPECT_FALSE(widget("Panel").isVisible());
 }
 
 TEST_F(Story, AMissingWorkspaceIsSaidAndTheProgramGoesOn) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QDialogButtonBox>
 #include <QFontMetrics>
+#include <QPushButton>
 
 #include "atlas/mapengine/toolbars.h"
 #include "hosts/desktop/artwork.h"
@@ -37,6 +39,19 @@ TEST(FitText, BreaksThenShrinksThenCuts) {
   const FittedText cut = fitText(text, font, {wide / 3, metrics.height()});
   EXPECT_TRUE(cut.isCut);
   EXPECT_TRUE(cut.text.endsWith(QChar(0x2026)));
+}
+
+TEST(Words, OfTheToolkitAreSpanish) {
+  using Box = QDialogButtonBox;
+  const Box box(Box::Ok | Box::Cancel | Box::Yes | Box::No | Box::Save);
+  const auto text = [&box](Box::StandardButton button) { return box.button(button)->text().remove('&'); };
+  EXPECT_EQ(text(Box::Ok), "Aceptar");
+  EXPECT_EQ(text(Box::Cancel), "Cancelar");
+  EXPECT_EQ(text(Box::Yes), "Sí");
+  EXPECT_EQ(text(Box::No), "No");
+  EXPECT_EQ(text(Box::Save), "Guardar");
+  EXPECT_EQ(QLocale().language(), QLocale::Spanish);
+  EXPECT_EQ(QString::number(1234.5), "1234.5");
 }
 
 TEST(PageText, ReadsBothEncodings) {

@@ -4,16 +4,32 @@ namespace desktop {
 namespace {
 
 constexpr double kShareOfScreen = 0.92;
+constexpr QSize kSmallestWindow(1000, 680);
+constexpr QSize kUsualFrame(16, 40);  // more than most desktops put around a window
+constexpr double kSmallestScale = 0.5;
 
 }  // namespace
 
+QSize smallestSize(FormLook look) { return look == FormLook::window ? kSmallestWindow : QSize(0, 0); }
+
 QRect firstPlace(FormLook look, QSize stored, const QRect& screen) {
   QSize size = stored;
-  if (look == FormLook::window) size = stored.expandedTo(screen.size() * kShareOfScreen).boundedTo(screen.size());
+  if (look == FormLook::window) {
+    size = stored.expandedTo(screen.size() * kShareOfScreen).boundedTo(screen.size() - kUsualFrame);
+    size = size.expandedTo(kSmallestWindow);
+  }
   QRect place(QPoint(), size);
   place.moveCenter(screen.center());
+  if (look == FormLook::window) place.translate(-kUsualFrame.width() / 2, -kUsualFrame.height() / 2);
   place.moveTopLeft({qMax(place.left(), screen.left()), qMax(place.top(), screen.top())});
   return place;
+}
+
+double scaleFor(QSize screen) {
+  const QSize needed = kSmallestWindow + kUsualFrame;
+  const double across = static_cast<double>(screen.width()) / needed.width();
+  const double down = static_cast<double>(screen.height()) / needed.height();
+  return qBound(kSmallestScale, qMin(across, down), 1.0);
 }
 
 }  // namespace desktop

@@ -26,14 +26,16 @@ void addBranch(std::vector<std::string>& lines, const std::vector<std::unique_pt
 
 std::vector<std::string> propertyLines(const forms::Control& control) {
   std::vector<std::string> lines;
-  const std::string begin = "show " + control.name() + ".";
+  const auto show = [&](const std::string& what, const std::string& value) {
+    lines.push_back("show " + control.name() + "." + what + " " + value);
+  };
   for (const Property property : kProperties) {
     const std::string value = control.describe(property);
-    if (!value.empty()) lines.push_back(begin + std::string(forms::name(property)) + " " + value);
+    if (!value.empty()) show(std::string(forms::name(property)), value);
   }
   if (const auto* list = dynamic_cast<const forms::ItemList*>(&control)) {
     for (std::size_t i = 0; i < list->items().size(); ++i) {
-      lines.push_back(begin + "List(" + std::to_string(i) + ") " + forms::quoted(list->items()[i]));
+      show("List(" + std::to_string(i) + ")", forms::quoted(list->items()[i]));
     }
   }
   return lines;

@@ -6,6 +6,7 @@
 
 #include "platform/paths.h"
 #include "text/failure.h"
+#include "text/file_text.h"
 
 namespace headless {
 namespace {
@@ -16,11 +17,6 @@ std::string folded(const std::string& path) {
   std::string result = platform::foldedFileName(path);
   std::ranges::replace(result, '/', '\\');
   return result;
-}
-
-std::string utf8(const fs::path& path) {
-  const std::u8string s = path.u8string();
-  return {s.begin(), s.end()};
 }
 
 }  // namespace
@@ -40,7 +36,7 @@ std::string HeadlessFiles::lookUp(const std::string& path) {
   const fs::path found = platform::machinePath(path);
   std::error_code ignored;
   const bool isFile = fs::exists(found, ignored) && !fs::is_directory(found, ignored);
-  return isFile ? utf8(found.filename()) : "";
+  return isFile ? text::fromPath(found.filename()) : "";
 }
 
 std::vector<std::string> HeadlessFiles::folders(const std::string& path) {
@@ -49,7 +45,7 @@ std::vector<std::string> HeadlessFiles::folders(const std::string& path) {
   const fs::directory_iterator end;
   for (fs::directory_iterator entry(platform::machinePath(path), ignored); !ignored && entry != end;
        entry.increment(ignored)) {
-    if (entry->is_directory(ignored)) names.push_back(utf8(entry->path().filename()));
+    if (entry->is_directory(ignored)) names.push_back(text::fromPath(entry->path().filename()));
   }
   return names;
 }

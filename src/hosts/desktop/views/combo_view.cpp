@@ -11,6 +11,8 @@
 namespace desktop {
 namespace {
 
+constexpr int kMostRows = 15;  // of an open list; the rest is scrolled to
+
 // Each pick may open a map: the wheel, which passes by, picks nothing. Enter opens the list, in which it picks.
 class Combo : public QComboBox {
  public:
@@ -39,6 +41,8 @@ class Combo : public QComboBox {
   void showPopup() override {
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + kPopupExtra);
     QComboBox::showPopup();
+    // Nothing is chosen: the keys begin before the first item, which the view has marked as current.
+    if (currentIndex() < 0) view()->setCurrentIndex(QModelIndex());
   }
 
  private:
@@ -51,7 +55,7 @@ class Combo : public QComboBox {
 ComboView::ComboView(forms::ItemList& list, QWidget& parent, ProgramCalls& calls)
     : ControlView(list, calls), list_(list), combo_(new Combo(&parent)) {
   combo_->setView(new QListView(combo_));  // the style sheet reaches its items
-  combo_->setMaxVisibleItems(16);
+  combo_->setMaxVisibleItems(kMostRows);
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   connect(combo_, &QComboBox::activated, this, [this](int index) { act([this, index] { list_.userPick(index); }); });
   if (auto* editable = dynamic_cast<forms::EditableCombo*>(&list)) {

@@ -6,6 +6,7 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "hosts/desktop/keyboard_focus.h"
+#include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
 
@@ -85,13 +86,13 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Enter:
     case QEvent::MouseMove:
       if (control.MouseMove.hasHandlers() && isOnItself(*static_cast<QWidget*>(watched), *event)) {
-        act([&control] { control.userMouseMove(); });
+        act([&control] { pointAt(control); });
       }
       break;
     case QEvent::FocusIn:
       // The keyboard's way of pointing at something; inside a handler it is the program that moves the focus.
       if (isKeyboardFocus(*static_cast<QFocusEvent*>(event)) && !calls_.isBusy() && control.MouseMove.hasHandlers()) {
-        act([&control] { control.userMouseMove(); });
+        act([&control] { pointAt(control); });
       }
       if (control.GotFocus.hasHandlers()) actWhenFree([&control] { control.userFocus(); });
       break;

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/theme.h"
 
 namespace desktop {
@@ -9,24 +10,30 @@ namespace {
 
 constexpr int kVeilStrength = 150;  // of 255
 
+enum class FrameLook { group, popUp, veil };
+
+FrameLook lookOf(const forms::Frame& frame) {
+  if (frame.container() != nullptr) return FrameLook::group;
+  return isPopUp(frame) ? FrameLook::popUp : FrameLook::veil;
+}
+
 class FrameWidget : public QWidget {
  public:
-  FrameWidget(bool onForm, QWidget& parent) : QWidget(&parent), onForm_(onForm) {}
+  FrameWidget(FrameLook look, QWidget& parent) : QWidget(&parent), look_(look) {}
   void setCaption(const QString& caption) {
     caption_ = caption;
     update();
   }
-  [[nodiscard]] bool isVeil() const { return onForm_ && children().isEmpty(); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (isVeil()) {
+    if (look_ == FrameLook::veil) {
       QColor veil = theme::kPaper;
       veil.setAlpha(kVeilStrength);
       painter.fillRect(rect(), veil);
-    } else if (onForm_) {
+    } else if (look_ == FrameLook::popUp) {
       painter.setPen(QPen(theme::kBorder, 1));
       painter.setBrush(theme::kCard);
       painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kRadius, theme::kRadius);
@@ -40,7 +47,7 @@ class FrameWidget : public QWidget {
     painter.drawText(rect().adjusted(6, 0, -6, 0), Qt::AlignLeft | Qt::AlignTop, caption_);
   }
 
-  bool onForm_;
+  FrameLook look_;
   QString caption_;
 };
 
@@ -48,15 +55,19 @@ class FrameWidget : public QWidget {
 
 FrameView::FrameView(forms::Frame& frame, QWidget& parent, ProgramCalls& calls)
     : ControlView(frame, calls), frame_(frame) {
-  adopt(new FrameWidget(frame.container() == nullptr, parent));
+  adopt(new FrameWidget(lookOf(frame), parent));
 }
 
-bool FrameView::paintsAtOnce() const {
-  const auto* frame = dynamic_cast<const FrameWidget*>(widget());
-  return frame != nullptr && frame->isVeil();
+bool FrameView::isVeil() const { return lookOf(frame_) == FrameLook::veil; }
+
+bool FrameView::paintsAtOnce() const { return isVeil(); }
+
+void FrameView::callReturned() {
+  if (isVeil()) widget()->hide();
 }
 
 void FrameView::sync(forms::Property property) {
+  if (property == forms::Property::Visible && isVeil()) return widget()->setVisible(frame_.visible() && isBusy());
   if (property != forms::Property::Caption) return ControlView::sync(property);
   if (auto* frame = dynamic_cast<FrameWidget*>(widget())) frame->setCaption(QString::fromStdString(frame_.caption()));
 }

@@ -2,9 +2,15 @@
 
 #include <QSignalBlocker>
 
+#include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/pick_list.h"
 
 namespace desktop {
+namespace {
+
+constexpr int kMargin = 4;  // pixels below the list, to the end of what holds it
+
+}  // namespace
 
 ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, ProgramCalls& calls)
     : ControlView(list, calls), list_(list), rows_(new PickList(parent)) {
@@ -14,9 +20,20 @@ ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, ProgramCalls& ca
 }
 
 void ListBoxView::sync(forms::Property property) {
-  if (property != forms::Property::ListIndex) return ControlView::sync(property);
+  if (property != forms::Property::ListIndex) {
+    ControlView::sync(property);
+    return showWholeRows();
+  }
   const QSignalBlocker quiet(rows_);
   rows_->setCurrentRow(list_.listIndex());
+}
+
+void ListBoxView::showWholeRows() {
+  const QRect place = pixelRect(list_);
+  const int lowest = rows_->parentWidget()->height() - kMargin;
+  int height = rows_->heightOfRows(rows_->rowsIn(place.height()));
+  if (place.top() + height > lowest) height = rows_->heightOfRows(rows_->rowsIn(place.height()) - 1);
+  if (height > 0) rows_->resize(place.width(), height);
 }
 
 void ListBoxView::itemAdded(const std::string& item) { rows_->addItem(QString::fromStdString(item)); }

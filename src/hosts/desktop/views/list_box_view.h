@@ -7,6 +7,7 @@ namespace desktop {
 
 class PickList;
 
+// A list shows whole rows: it is a little higher than its control where that does not end with one.
 class ListBoxView : public ControlView {
  public:
   ListBoxView(forms::ListBox& list, QWidget& parent, ProgramCalls& calls);
@@ -15,6 +16,8 @@ class ListBoxView : public ControlView {
   void cleared() override;
 
  private:
+  void showWholeRows();
+
   forms::ListBox& list_;
   PickList* rows_;
 };

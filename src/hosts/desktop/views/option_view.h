@@ -5,7 +5,8 @@
 
 namespace desktop {
 
-// One of several choices; it acts when the mouse button, or the space bar, is released on it.
+// One of several choices; it acts when the mouse button, or the space bar, is released on it, or an arrow key
+// leads to it.
 class OptionView : public ControlView {
  public:
   OptionView(forms::OptionButton& option, QWidget& parent, ProgramCalls& calls);

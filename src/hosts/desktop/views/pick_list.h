@@ -11,11 +11,20 @@ class PickList : public QListWidget {
  public:
   explicit PickList(QWidget& parent);
 
+  // Sizes in pixels, of rows that hold one line: the rows that fill a height, the last one perhaps in part, and the
+  // height that so many rows need.
+  [[nodiscard]] int rowsIn(int height) const;
+  [[nodiscard]] int heightOfRows(int rows) const;
+
  signals:
   void picked(int row);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  int rowHeight_ = 0;
+  int border_ = 0;  // above and below the rows together
 };
 
 }  // namespace desktop

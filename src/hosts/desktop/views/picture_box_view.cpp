@@ -1,6 +1,7 @@
 #include "hosts/desktop/views/picture_box_view.h"
 
 #include <QPainter>
+#include <QPalette>
 
 #include "hosts/desktop/theme.h"
 
@@ -22,6 +23,10 @@ class Sheet : public QWidget {
 
 PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, ProgramCalls& calls) : ControlView(box, calls) {
   adopt(new Sheet(&parent));
+  // The map's ring is that of all else that has the keyboard.
+  QPalette colours = widget()->palette();
+  colours.setColor(QPalette::Highlight, theme::kAccent);
+  widget()->setPalette(colours);
 }
 
 }  // namespace desktop

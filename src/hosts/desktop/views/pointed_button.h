@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 
+#include "hosts/desktop/keyboard_focus.h"
+
 namespace desktop {
 
 // What the program's own buttons share: they light up under the pointer, Enter clicks them as the space bar does, the
@@ -11,17 +13,23 @@ class PointedButton : public QAbstractButton {
   explicit PointedButton(QWidget& parent);
 
  protected:
-  [[nodiscard]] bool isLit() const { return underMouse() || hasRing_; }
-  [[nodiscard]] bool hasRing() const { return hasRing_; }
+  [[nodiscard]] bool isLit() const { return isPointedAt_ || hasRing(); }
+  [[nodiscard]] bool hasRing() const { return ring_.isShown(); }
 
+  // While the button is lit by the pointer: everything that tells that the pointer is elsewhere.
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  bool hasRing_ = false;
+  void setPointedAt(bool pointedAt);
+
+  bool isPointedAt_ = false;
+  KeyboardRing ring_;
 };
 
 }  // namespace desktop

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "hosts/desktop/keyboard_focus.h"
 #include "hosts/desktop/theme.h"
 
 namespace desktop {
@@ -27,6 +26,7 @@ TabRow::TabRow(Look look, const std::vector<std::string>& captions, QWidget& par
   setDrawBase(false);
   setExpanding(false);
   setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);  // a click keeps the keyboard at what was clicked
   for (const std::string& caption : captions) addTab(QString::fromStdString(caption));
 }
 
@@ -55,7 +55,7 @@ void TabRow::paintEvent(QPaintEvent*) {
       paintPage(painter, i);
     }
   }
-  if (!hasRing_) return;
+  if (!ring_.isShown()) return;
   const double radius = look_ == Look::segments ? theme::kRadius : 4;
   theme::paintFocusRing(painter, QRectF(tabRect(currentIndex())).adjusted(1, 1, -1, -1), radius);
 }
@@ -115,12 +115,12 @@ void TabRow::leaveEvent(QEvent* event) {
 }
 
 void TabRow::focusInEvent(QFocusEvent* event) {
-  hasRing_ = isKeyboardFocus(*event);
+  ring_.focusIn(*event);
   QTabBar::focusInEvent(event);
 }
 
 void TabRow::focusOutEvent(QFocusEvent* event) {
-  hasRing_ = false;
+  ring_.focusOut(*event);
   QTabBar::focusOutEvent(event);
 }
 

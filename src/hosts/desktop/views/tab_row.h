@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "hosts/desktop/keyboard_focus.h"
+
 namespace desktop {
 
 // A row of tabs that tells of every pick of the user's, also of the tab already chosen.
@@ -38,7 +40,7 @@ class TabRow : public QTabBar {
 
   Look look_;
   int hovered_ = -1;
-  bool hasRing_ = false;
+  KeyboardRing ring_;
 };
 
 }  // namespace desktop

@@ -62,6 +62,7 @@ void TreeViewView::nodeAdded(const forms::Node& node) {
     rows_->addTopLevelItem(item);
   } else {
     parent->second->addChild(item);
+    openAgain(*node.parent(), *parent->second);
   }
   items_[&node] = item;
 }
@@ -79,7 +80,28 @@ void TreeViewView::addWithChildren(const forms::Node& node) {
 }
 
 void TreeViewView::itemToggled(const QTreeWidgetItem& item, bool expanded) {
-  if (forms::Node* node = nodeOf(tree_, *rows_, item)) node->userExpand(expanded);
+  forms::Node* node = nodeOf(tree_, *rows_, item);
+  if (node == nullptr) return;
+  node->userExpand(expanded);
+  if (expanded) {
+    openedByUser_.insert(textPathOf(*node));
+  } else {
+    openedByUser_.erase(textPathOf(*node));
+  }
+}
+
+// A branch can be opened from its first child on.
+void TreeViewView::openAgain(forms::Node& node, QTreeWidgetItem& item) {
+  if (item.isExpanded() || !openedByUser_.contains(textPathOf(node))) return;
+  const QSignalBlocker quiet(rows_);
+  item.setExpanded(true);
+  node.userExpand(true);
+}
+
+TreeViewView::TextPath TreeViewView::textPathOf(const forms::Node& node) {
+  TextPath path;
+  for (const forms::Node* at = &node; at != nullptr; at = at->parent()) path.push_back(at->text());
+  return path;
 }
 
 }  // namespace desktop
