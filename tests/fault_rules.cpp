@@ -4,7 +4,6 @@
 #include <array>
 #include <ranges>
 #include <string_view>
-#include <vector>
 
 #include "hosts/headless/wildcard.h"
 #include "text/failure.h"
@@ -21,160 +20,90 @@ enum class Step {
 enum class Reaction { silent, reported };
 
 // What follows a failure, by the script's line that was being run, the call that failed and, where that is not enough,
-// a line that came before it since. The first rule that fits applies.
+// a line that came before it since. Lines are told by patterns, "a|b" by either. The first rule that fits applies.
 struct Rule {
   std::string_view script;
-  Step step;
-  std::string_view call;
-  std::string_view before;  // "" for none; "^" first: it must be the line just before the call
-  Reaction reaction;
-  std::vector<std::string_view> mayFollow;
-  std::string_view mustFollow;  // "a|b": one of them
+  Step step = Step::handling;
+  std::string_view call = "*";
+  std::string_view before = {};  // "" for none; "^" first: it must be the line just before the call
+  Reaction reaction = Reaction::silent;
+  std::string_view mayFollow = {};
+  std::string_view mustFollow = {};  // one of them, which may follow then
 };
 
-const std::vector<Rule>& rules() {
-  // The main window comes up whatever happens to its map, and the splash goes.
-  static const std::vector<std::string_view> comingUp{"form frmPrincipal show", "set *",
-                                                      "eval windowid(1)*",      "eval WindowID(1)*",
-                                                      "do set window *",        "form frmInicio unload"};
-  // What the main window looks like without a map; an engine that was not found ends the program instead.
-  static const std::vector<std::string_view> comingUpWithoutMap{"form frmPrincipal show", "set *", "findwindow *",
-                                                                "eval windowid(1)*", "form frmInicio unload"};
-  static const std::vector<std::string_view> engineNotFound{"regquery Path 0 0 = 6",
-                                                            "msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *",
-                                                            "form frmInicio unload", "form frmPrincipal unload", "end"};
-  static const std::vector<std::string_view> anything{"*"};
-  static const std::vector<std::string_view> nothing;
-  static const std::vector<Rule> all = [] {
-    std::vector<Rule> table;
+constexpr std::string_view kQuery = "> select CmbProvincias *|> select CmbZonas *|> select ListaResultado *";
+constexpr std::string_view kStart = "> tick|> doubleclick frmInicio";
+// The main window comes up whatever happens to its map, and the splash goes.
+constexpr std::string_view kComingUp =
+    "form frmPrincipal show|set *|eval windowid(1)*|eval WindowID(1)*|do set window *";
+// What the main window looks like without a map; an engine that was not found ends the program instead.
+constexpr std::string_view kComingUpWithoutMap = "form frmPrincipal show|set *|findwindow *|eval windowid(1)*";
+constexpr std::string_view kEngineNotFound =
+    "regquery Path 0 0 = 6|msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *|form frmInicio unload|"
+    "form frmPrincipal unload";
+constexpr std::string_view kSelectorUp = "zorder frmTematicos topmost 19";
+
+constexpr Rule kRules[] = {
     // Taking the earlier query off the map is silent, and the query goes on.
-    for (const std::string_view query :
-         {"> select CmbProvincias *", "> select CmbZonas *", "> select ListaResultado *"}) {
-      for (const std::string_view call : {"eval frontwindow()", "eval LayerInfo(*", "do set map layer 1 label default·",
-                                          "do Remove map layer 1 Interactive"}) {
-        table.push_back({query, Step::handling, call, "", Reaction::silent, anything, "set txtespere1.Visible False"});
-      }
-      table.push_back({query, Step::handling, "do Set map zoom entire", "^do Remove map layer 1 Interactive",
-                       Reaction::silent, anything, "set txtespere1.Visible False"});
-    }
-    for (const std::string_view start : {"> tick", "> doubleclick frmInicio"}) {
-      const std::vector<Rule> checks{
-          // A PDF viewer that is not found is no matter for the start; a map engine that is not found ends it.
-          {start, Step::handling, "regopen *Mapinfor.exe *", "", Reaction::silent, engineNotFound, "end"},
-          {start, Step::handling, "regopen *", "", Reaction::silent, anything, "form frmInicio unload|end"},
-          {start, Step::handling, "regquery *", "regopen *ACRORD32.exe *", Reaction::silent, anything,
-           "form frmInicio unload|end"},
-          {start, Step::handling, "regquery *", "", Reaction::silent, engineNotFound, "end"},
-          {start, Step::handling, "dir *", "", Reaction::silent, comingUpWithoutMap, "form frmInicio unload"},
-      };
-      table.insert(table.end(), checks.begin(), checks.end());
-    }
-    const std::vector<Rule> others{
-        {"> tick", Step::opening, "*", "", Reaction::silent, comingUp, "form frmInicio unload"},
-        {"> tick", Step::handling, "*", "", Reaction::silent, comingUp, "form frmInicio unload"},
-        {"> doubleclick frmInicio", Step::opening, "*", "", Reaction::silent, comingUp, "form frmInicio unload"},
-        {"> doubleclick frmInicio", Step::handling, "*", "", Reaction::silent, comingUp, "form frmInicio unload"},
-        // Filling the consultation lists has a trap of its own: the tab comes up all the same.
-        {"> select Ficha *", Step::opening, "*", "", Reaction::silent, nothing, ""},
-        {"> select Ficha *", Step::handling, "eval frontwindow()", "", Reaction::silent, nothing, ""},
-        {"> select Ficha *",
-         Step::handling,
-         "*",
-         "eval frontwindow() = *",
-         Reaction::silent,
-         {"set FichaConsultasDatos.Visible True", "set Opt*"},
-         "set OptZbs.Value True"},
-        {"> select Ficha *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        // With the engine gone, whatever the year tab would still ask of it fails in silence, but for the thematic
-        // object.
-        {"> select FichaAños *",
-         Step::opening,
-         "*",
-         "",
-         Reaction::silent,
-         {"set Panel.Visible False", "msgbox 0 * \"La variable de tipo Object *"},
-         ""},
-        {"> select FichaAños *",
-         Step::handling,
-         "eval Tableinfo(1,1)",
-         "",
-         Reaction::reported,
-         {"set Panel.Visible False"},
-         "set Panel.Visible False"},
-        {"> select FichaAños *",
-         Step::handling,
-         "*",
-         "eval Tableinfo(1,1)*",
-         Reaction::reported,
-         {"set Panel.Visible False"},
-         "set Panel.Visible False"},
-        {"> select FichaAños *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> select CmbProvincias *", Step::handling, "*", "", Reaction::reported, nothing, ""},
-        {"> select CmbZonas *", Step::handling, "*", "", Reaction::reported, nothing, ""},
-        {"> select ListaResultado *", Step::handling, "*", "", Reaction::reported, nothing, ""},
-        // The search that the prompt starts is reported by itself; the list is emptied all the same.
-        {"> select CmbBuscar *",
-         Step::handling,
-         "*",
-         "",
-         Reaction::reported,
-         {"clear ListaResultado"},
-         "clear ListaResultado"},
-        // Each further character searches again.
-        {"> type txtBuscar *",
-         Step::handling,
-         "*",
-         "",
-         Reaction::reported,
-         {"clear ListaResultado", "add ListaResultado *", "do Select nombre *", "do fetch *", "eval *"},
-         ""},
-        // A choice of the selector ends where it fails; the province's choice goes on after the unit's.
-        {"> select CmbMarco *", Step::opening, "*", "", Reaction::silent, anything, "zorder frmTematicos topmost 19"},
-        {"> select CmbMarco *", Step::handling, "*", "", Reaction::silent, anything, ""},
-        {"> select Cmb*",
-         Step::opening,
-         "*",
-         "",
-         Reaction::silent,
-         {"zorder frmTematicos topmost 19"},
-         "zorder frmTematicos topmost 19"},
-        {"> select Cmb*", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> click BtnTematico",
-         Step::opening,
-         "*",
-         "",
-         Reaction::silent,
-         {"zorder frmTematicos topmost 19"},
-         "zorder frmTematicos topmost 19"},
-        {"> click BtnTematico", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        // The window closes all the same; what the program still holds goes with its last window.
-        {"> close",
-         Step::handling,
-         "*",
-         "",
-         Reaction::silent,
-         {"form frmPrincipal unload", "release #*"},
-         "form frmPrincipal unload"},
-        {"> click LblSalir",
-         Step::handling,
-         "*",
-         "",
-         Reaction::silent,
-         {"form frmPrincipal unload", "release #*"},
-         "form frmPrincipal unload"},
-        // Toolbars, view buttons, the layout and the methods that the engine calls back.
-        {"> click *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> mouseup *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> resize *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> restore", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> mapclick *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-        {"> callback *", Step::handling, "*", "", Reaction::silent, nothing, ""},
-    };
-    table.insert(table.end(), others.begin(), others.end());
-    return table;
-  }();
-  return all;
-}
+    {.script = kQuery,
+     .call = "eval frontwindow()|eval LayerInfo(*|do set map layer 1 label default·|do Remove map layer 1 Interactive",
+     .mayFollow = "*",
+     .mustFollow = "set txtespere1.Visible False"},
+    {.script = kQuery,
+     .call = "do Set map zoom entire",
+     .before = "^do Remove map layer 1 Interactive",
+     .mayFollow = "*",
+     .mustFollow = "set txtespere1.Visible False"},
+    {.script = kQuery, .reaction = Reaction::reported},
+    // A PDF viewer that is not found is no matter for the start; a map engine that is not found ends it.
+    {.script = kStart, .call = "regopen *Mapinfor.exe *", .mayFollow = kEngineNotFound, .mustFollow = "end"},
+    {.script = kStart, .call = "regopen *", .mayFollow = "*", .mustFollow = "form frmInicio unload|end"},
+    {.script = kStart,
+     .call = "regquery *",
+     .before = "regopen *ACRORD32.exe *",
+     .mayFollow = "*",
+     .mustFollow = "form frmInicio unload|end"},
+    {.script = kStart, .call = "regquery *", .mayFollow = kEngineNotFound, .mustFollow = "end"},
+    {.script = kStart, .call = "dir *", .mayFollow = kComingUpWithoutMap, .mustFollow = "form frmInicio unload"},
+    {.script = kStart, .step = Step::opening, .mayFollow = kComingUp, .mustFollow = "form frmInicio unload"},
+    {.script = kStart, .mayFollow = kComingUp, .mustFollow = "form frmInicio unload"},
+    // Filling the consultation lists has a trap of its own: the tab comes up all the same.
+    {.script = "> select Ficha *", .step = Step::opening},
+    {.script = "> select Ficha *", .call = "eval frontwindow()"},
+    {.script = "> select Ficha *",
+     .before = "eval frontwindow() = *",
+     .mayFollow = "set FichaConsultasDatos.Visible True|set Opt*",
+     .mustFollow = "set OptZbs.Value True"},
+    {.script = "> select Ficha *"},
+    // With the engine gone, whatever the year tab would still ask of it fails in silence, but for the thematic object.
+    {.script = "> select FichaAños *",
+     .step = Step::opening,
+     .mayFollow = "set Panel.Visible False|msgbox 0 * \"La variable de tipo Object *"},
+    {.script = "> select FichaAños *",
+     .call = "eval Tableinfo(1,1)",
+     .reaction = Reaction::reported,
+     .mustFollow = "set Panel.Visible False"},
+    {.script = "> select FichaAños *",
+     .before = "eval Tableinfo(1,1)*",
+     .reaction = Reaction::reported,
+     .mustFollow = "set Panel.Visible False"},
+    {.script = "> select FichaAños *"},
+    // The search that the prompt starts is reported by itself; the list is emptied all the same.
+    {.script = "> select CmbBuscar *", .reaction = Reaction::reported, .mustFollow = "clear ListaResultado"},
+    // Each further character searches again.
+    {.script = "> type txtBuscar *",
+     .reaction = Reaction::reported,
+     .mayFollow = "clear ListaResultado|add ListaResultado *|do Select nombre *|do fetch *|eval *"},
+    // A choice of the selector ends where it fails; the province's choice goes on after the unit's.
+    {.script = "> select CmbMarco *", .step = Step::opening, .mayFollow = "*", .mustFollow = kSelectorUp},
+    {.script = "> select CmbMarco *", .mayFollow = "*"},
+    {.script = "> select Cmb*|> click BtnTematico", .step = Step::opening, .mustFollow = kSelectorUp},
+    {.script = "> select Cmb*|> click BtnTematico"},
+    // The window closes all the same; what the program still holds goes with its last window.
+    {.script = "> close|> click LblSalir", .mayFollow = "release #*", .mustFollow = "form frmPrincipal unload"},
+    // Toolbars, view buttons, the layout and the methods that the engine calls back.
+    {.script = "> click *|> mouseup *|> resize *|> restore|> mapclick *|> callback *"},
+};
 
 // How a workspace that cannot be opened is given up; the engine, if there was one, is released.
 constexpr std::array kGivingUp{
@@ -214,15 +143,25 @@ bool findIncident(const Lines& transcript, Incident& incident) {
   return true;
 }
 
+// `patterns` is one pattern, or several with "|" between them.
+bool fitsOneOf(std::string_view patterns, std::string_view line) {
+  for (std::size_t at = 0; at <= patterns.size();) {
+    const std::size_t end = std::min(patterns.find('|', at), patterns.size());
+    if (matchesWildcard(patterns.substr(at, end - at), line)) return true;
+    at = end + 1;
+  }
+  return false;
+}
+
 bool fits(const Rule& rule, const Incident& incident) {
-  if (!matchesWildcard(rule.script, incident.script) || rule.step != incident.step() ||
-      !matchesWildcard(rule.call, incident.call())) {
+  if (!fitsOneOf(rule.script, incident.script) || rule.step != incident.step() ||
+      !fitsOneOf(rule.call, incident.call())) {
     return false;
   }
   if (rule.before.empty()) return true;
   const Lines earlier(incident.before.begin(), incident.before.end() - 1);
-  if (rule.before.starts_with("^")) return !earlier.empty() && matchesWildcard(rule.before.substr(1), earlier.back());
-  return std::ranges::any_of(earlier, [&](const std::string& line) { return matchesWildcard(rule.before, line); });
+  if (rule.before.starts_with("^")) return !earlier.empty() && fitsOneOf(rule.before.substr(1), earlier.back());
+  return std::ranges::any_of(earlier, [&](const std::string& line) { return fitsOneOf(rule.before, line); });
 }
 
 // Takes the lines of giving up a workspace from the front of `rest`.
@@ -246,16 +185,6 @@ bool takeReport(Lines& rest) {
   return true;
 }
 
-// `wanted` is a line, or several with "|" between them.
-bool holdsOneOf(const Lines& lines, std::string_view wanted) {
-  for (std::size_t at = 0; at <= wanted.size();) {
-    const std::size_t end = std::min(wanted.find('|', at), wanted.size());
-    if (std::ranges::find(lines, wanted.substr(at, end - at)) != lines.end()) return true;
-    at = end + 1;
-  }
-  return false;
-}
-
 std::string described(const Incident& incident, const std::string& what) {
   std::string text = what + "\n  " + incident.script + "\n  " + incident.call() + "\n  (fault)\n";
   for (const std::string& line : incident.after) text += "  " + line + "\n";
@@ -273,19 +202,18 @@ bool isFault(const std::string& line) {
 std::string complaintAbout(const Lines& transcript) {
   Incident incident;
   if (!findIncident(transcript, incident)) return "the fault did not happen";
-  const auto rule = std::ranges::find_if(rules(), [&](const Rule& r) { return fits(r, incident); });
-  if (rule == rules().end()) return described(incident, "no rule for this");
+  const auto* const rule = std::ranges::find_if(kRules, [&](const Rule& r) { return fits(r, incident); });
+  if (rule == std::end(kRules)) return described(incident, "no rule for this");
   Lines rest = incident.after;
   if (rule->step == Step::opening && !takeGivingUp(rest)) return described(incident, "the workspace was not given up");
   if (rule->reaction == Reaction::reported && !takeReport(rest)) return described(incident, "not reported");
+  bool hasFollowed = rule->mustFollow.empty();
   for (const std::string& line : rest) {
-    const bool mayFollow =
-        std::ranges::any_of(rule->mayFollow, [&](std::string_view pattern) { return matchesWildcard(pattern, line); });
-    if (!mayFollow) return described(incident, "this was not to follow: " + line);
+    const bool isTheOne = !rule->mustFollow.empty() && fitsOneOf(rule->mustFollow, line);
+    if (!isTheOne && !fitsOneOf(rule->mayFollow, line)) return described(incident, "this was not to follow: " + line);
+    hasFollowed = hasFollowed || isTheOne;
   }
-  if (!rule->mustFollow.empty() && !holdsOneOf(rest, rule->mustFollow)) {
-    return described(incident, "this did not follow: " + std::string(rule->mustFollow));
-  }
+  if (!hasFollowed) return described(incident, "this did not follow: " + std::string(rule->mustFollow));
   return "";
 }
 

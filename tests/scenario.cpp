@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "hosts/headless/embedded_engine.h"
 #include "hosts/headless/scripted_engine.h"
+#include "text/file_text.h"
 
 namespace scenarios {
 namespace {
@@ -15,11 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto kCopy = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
-
-std::string utf8(const fs::path& path) {
-  const std::u8string s = path.u8string();
-  return {s.begin(), s.end()};
-}
 
 }  // namespace
 
@@ -37,9 +31,9 @@ fs::path file(const std::string& name, const std::string& ending) {
 }
 
 std::string contentsOf(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw std::runtime_error("cannot read " + utf8(file));
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  auto bytes = text::wholeFile(file);
+  if (!bytes) throw std::runtime_error("cannot read " + text::fromPath(file));
+  return *std::move(bytes);
 }
 
 Lines linesOf(const std::string& text) {
@@ -81,7 +75,7 @@ Study::~Study() {
   if (isCopy_) fs::remove_all(folder_, ignored);
 }
 
-std::string Study::folder() const { return utf8(folder_); }
+std::string Study::folder() const { return text::fromPath(folder_); }
 
 Run::Run(const std::string& name, const Study& study) {
   if (const fs::path engine = file(name, ".engine"); fs::exists(engine)) {

@@ -1,6 +1,9 @@
-// The program from its start to the first painted map, the splash's wait left out (a double-click ends it at once):
-//   first_map APPFOLDER           ends when the statistics map has been painted
-//   first_map APPFOLDER memory    opens the map of a year, and prints the megabytes that the program takes
+// The program from its start to the first painted map:
+//   first_map APPFOLDER WAIT      double-clicks the splash away after WAIT milliseconds; ends when the statistics map
+//   has
+//                                 been painted
+//   first_map APPFOLDER memory    double-clicks it away at once, opens the map of a year, and prints the megabytes that
+//                                 the program takes
 
 #include <unistd.h>
 
@@ -41,15 +44,14 @@ double residentMegabytes() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc < 2) return 2;
+  if (argc != 3) return 2;
+  const std::string asked = argv[2];
+  const bool asksMemory = asked == "memory";
   QApplication application(argc, argv);
   desktop::prepareApplication(application);
   desktop::UserPrograms programs;
   desktop::DesktopProgram program(std::filesystem::canonical(argv[1]).string(), programs);
   program.start();
-  program.calls().run([&] { program.atlas().frmInicio().userDoubleClick(); });
-  const bool asksMemory = argc > 2;
-  if (asksMemory) program.calls().run([&] { program.atlas().frmPrincipal().Ficha.userPick(kDatos); });
 
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
@@ -57,6 +59,16 @@ int main(int argc, char** argv) {
     if (asksMemory) std::cout << residentMegabytes() << std::endl;
     std::_Exit(0);
   });
-  watch.start(kLookAgain);
+  const auto leaveSplash = [&] {
+    program.calls().run([&] { program.atlas().frmInicio().userDoubleClick(); });
+    if (asksMemory) program.calls().run([&] { program.atlas().frmPrincipal().Ficha.userPick(kDatos); });
+    watch.start(kLookAgain);
+  };
+  const int wait = asksMemory ? 0 : std::stoi(asked);
+  if (wait == 0) {
+    leaveSplash();
+  } else {
+    QTimer::singleShot(wait, Qt::PreciseTimer, &watch, leaveSplash);
+  }
   return QApplication::exec();
 }
