@@ -1,18 +1,29 @@
 # A folder of the source tree is one library; its unit tests (*_test.cpp) and benchmarks (*_bench.cpp) stand beside the
 # source. A folder links only with the folders it is given, and sees no toolkit or map library unless it names one.
 
+# veldoria_glob(RESULT GLOB|GLOB_RECURSE PATTERN): the current folder's files, without those of libraries below it.
+function(veldoria_glob result mode pattern)
+  file(${mode} files CONFIGURE_DEPENDS "${pattern}")
+  file(GLOB libraries CONFIGURE_DEPENDS "*/CMakeLists.txt")
+  foreach(library IN LISTS libraries)
+    get_filename_component(folder "${library}" DIRECTORY)
+    list(FILTER files EXCLUDE REGEX "^${folder}/")
+  endforeach()
+  set(${result} "${files}" PARENT_SCOPE)
+endfunction()
+
 # veldoria_folder(NAME [RECURSE] [QT] [LINKS ...] [PRIVATE_LINKS ...] [TEST_LINKS ...] [BENCH_LINKS ...])
-#   Library veldoria_<NAME> from the current folder's .cpp files (one level below too, with RECURSE), its tests as the
-#   program <NAME>_test, and its benchmarks as <NAME>_bench.
+#   Library veldoria_<NAME> from the current folder's .cpp files (with RECURSE also of the folders below that are no
+#   libraries of their own), its tests as the program <NAME>_test, and its benchmarks as <NAME>_bench.
 function(veldoria_folder name)
   cmake_parse_arguments(ARG "RECURSE;QT" "" "LINKS;PRIVATE_LINKS;TEST_LINKS;BENCH_LINKS" ${ARGN})
   set(glob GLOB)
   if(ARG_RECURSE)
     set(glob GLOB_RECURSE)
   endif()
-  file(${glob} sources CONFIGURE_DEPENDS "*.cpp")
-  file(${glob} tests CONFIGURE_DEPENDS "*_test.cpp")
-  file(${glob} benches CONFIGURE_DEPENDS "*_bench.cpp")
+  veldoria_glob(sources ${glob} "*.cpp")
+  veldoria_glob(tests ${glob} "*_test.cpp")
+  veldoria_glob(benches ${glob} "*_bench.cpp")
   list(REMOVE_ITEM sources ${tests} ${benches})
 
   set(library veldoria_${name})
@@ -51,7 +62,7 @@ endfunction()
 # Built by `headers`: each header of the current folder, compiled on its own, with what its tests may see.
 add_custom_target(headers)
 function(veldoria_check_headers name glob)
-  file(${glob} headers CONFIGURE_DEPENDS "*.h")
+  veldoria_glob(headers ${glob} "*.h")
   set(units "")
   foreach(header IN LISTS headers)
     file(RELATIVE_PATH path "${CMAKE_SOURCE_DIR}/src" "${header}")
