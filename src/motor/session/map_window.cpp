@@ -1,9 +1,11 @@
 #include "motor/session/map_window.h"
 
 #include <algorithm>
-#include <cmath>
 #include <exception>
 
+#include "motor/map/projected_objects.h"
+#include "motor/session/hand_labels.h"
+#include "motor/session/hand_zoom.h"
 #include "motor/session/map_view.h"
 #include "motor/session/menu_commands.h"
 #include "motor/session/session_state.h"
@@ -11,18 +13,6 @@
 
 namespace motor {
 namespace {
-
-// Between what the user's hand leaves the map's width, in metres: a house, and so many times the entire map (or, where
-// there is nothing on the map, more than the whole earth).
-constexpr double kSmallestZoom = 50;
-constexpr double kMostTimesEntire = 4;
-constexpr double kLargestZoom = 1e8;
-
-double zoomWithin(const Map& map, double wanted) {
-  const double whole = entireZoom(map);
-  const double largest = whole > 0 ? std::max(kSmallestZoom, whole * kMostTimesEntire) : kLargestZoom;
-  return std::clamp(wanted, std::min(kSmallestZoom, map.zoomMetres), std::max(largest, map.zoomMetres));
-}
 
 constexpr double kClickZoomFactor = 2;
 
@@ -36,23 +26,45 @@ std::string message(const CommandEvent& event) {
   return text;
 }
 
-// Moves the map so that a point of it lies under a pixel. With longitude and latitude the scale changes with the
-// centre's latitude, so that it takes some steps to get there.
-void putUnder(Map& map, Point point, Point pixel) {
-  constexpr int kSteps = 5;
-  for (int step = 0; step < kSteps; ++step) {
-    const Point there = map.toMap(pixel);
-    map.centre.x += point.x - there.x;
-    map.centre.y += point.y - there.y;
-  }
+double boundsArea(const Map& map, const Hit& hit) {
+  const auto objects = projectedObjects(map.layers[hit.layer].table, map.coordinateSystem);
+  const Box& bounds = objects->objects()[objects->indexOf(hit.row)]->bounds;
+  return (bounds.maxX - bounds.minX) * (bounds.maxY - bounds.minY);
 }
 
-// What a click with a standard tool does; tools that are not listed leave a click to the window's own widgets.
-constexpr int kSelectTool = 1701;
-constexpr int kZoomInTool = 1705;
-constexpr int kZoomOutTool = 1706;
-constexpr int kLabelTool = 1708;
-constexpr int kPointDrawMode = 34;
+std::vector<Hit> objectsFor(const Tool& tool, const Map& map, Point p) {
+  if (tool.command == tools::kLabel) {
+    const std::optional<Hit> object = labelableAt(map, p);
+    return object ? std::vector{*object} : std::vector<Hit>();
+  }
+  if (tool.command == tools::kSelect) {
+    std::vector<Hit> hits = objectsAt(map, p);
+    if (hits.size() > 1) hits.resize(1);
+    return hits;
+  }
+  Map seen = map;
+  for (Layer& layer : seen.layers) layer.selectable = true;
+  std::vector<Hit> hits = objectsAt(seen, p);
+  std::stable_sort(hits.begin(), hits.end(),
+                   [&](const Hit& a, const Hit& b) { return boundsArea(map, a) < boundsArea(map, b); });
+  return hits;
+}
+
+// A layer that comes back is shown in its theme or in its objects' own styles; what is not switched stays as it was.
+void switchLayer(Layer& layer, const LayerSwitches& wanted) {
+  if (wanted.shown != (layer.display != Display::off)) {
+    const Display shown = layer.theme ? Display::value : layer.pen || layer.brush ? Display::global : Display::graphic;
+    layer.display = wanted.shown ? shown : Display::off;
+  }
+  if (layer.theme) return;
+  layer.selectable = wanted.selectable;
+  LabelSettings& label = layer.label;
+  if (wanted.labelled == (label.automatic && label.visibility != LabelSettings::Visibility::off)) return;
+  label.automatic = wanted.labelled;
+  if (wanted.labelled && label.visibility == LabelSettings::Visibility::off) {
+    label.visibility = LabelSettings::Visibility::on;
+  }
+}
 
 // Does what the user asks for as far as it goes. The program's end is no std::exception and passes.
 template <typename Action>
@@ -83,10 +95,20 @@ SelectedRows MapWindow::selectedRows() const {
 
 std::int64_t MapWindow::rulerParent() const { return session_.rulerParent; }
 
+std::shared_ptr<const ResultTable> MapWindow::selection() const { return session_.tables.selection(); }
+
+std::vector<Hit> MapWindow::pointedAt(Point pixel) const {
+  std::vector<Hit> hits;
+  quietly([&] { hits = objectsFor(tool(), map_, map_.toMap(pixel)); });
+  return hits;
+}
+
 void MapWindow::changed() {
   ++revision_;
-  session_.port.mapChanged(*this);
+  changedAbove();
 }
+
+void MapWindow::changedAbove() { session_.port.mapChanged(*this); }
 
 void MapWindow::resized(int pixelWidth, int pixelHeight) {
   bool wasEntire = false;
@@ -103,17 +125,28 @@ void MapWindow::clicked(Point pixel, bool shift, bool control) {
   quietly([&] { use(tool(), pixel, shift, control); });
 }
 
+Point MapWindow::inSession(Point pixel) const { return toSession(session_, map_, map_.toMap(pixel)); }
+
+// Changes the map with what tells whether it has.
+template <typename Action>
+void MapWindow::change(Action action) {
+  quietly([&] {
+    if (action()) changed();
+  });
+}
+
+// Tools that are not listed leave a click to the window's own widgets.
 void MapWindow::use(const Tool& current, Point pixel, bool shift, bool control) {
   switch (current.command) {
     case 0:
-      return clickedWithOwnButton(current, toSession(session_, map_, map_.toMap(pixel)), shift, control);
-    case kSelectTool:
+      return calledBackWith(current, inSession(pixel), inSession(pixel), shift, control);
+    case tools::kSelect:
       return selectAt(pixel);
-    case kZoomInTool:
-      return zoomBy(1 / kClickZoomFactor, pixel);
-    case kZoomOutTool:
-      return zoomBy(kClickZoomFactor, pixel);
-    case kLabelTool:
+    case tools::kZoomIn:
+      return change([&] { return zoomTo(map_, 1 / kClickZoomFactor, pixel); });
+    case tools::kZoomOut:
+      return change([&] { return zoomTo(map_, kClickZoomFactor, pixel); });
+    case tools::kLabel:
       return labelAt(pixel);
     default:
       return;
@@ -124,23 +157,36 @@ void MapWindow::clickedAt(Point inSession, bool shift, bool control) {
   quietly([&] {
     const Tool current = tool();
     if (current.command == 0) {
-      clickedWithOwnButton(current, inSession, shift, control);
+      calledBackWith(current, inSession, inSession, shift, control);
     } else {
       use(current, map_.toPixel(toMapCoordinates(session_, map_, inSession)), shift, control);
     }
   });
 }
 
-void MapWindow::clickedWithOwnButton(const Tool& tool, Point at, bool shift, bool control) {
+void MapWindow::dragged(Point fromPixel, Point toPixel, bool shift, bool control) {
+  quietly([&] {
+    const Tool current = tool();
+    if (current.command == 0) calledBackWith(current, inSession(fromPixel), inSession(toPixel), shift, control);
+  });
+}
+
+void MapWindow::calledBackWith(const Tool& tool, Point from, Point to, bool shift, bool control) {
   const ToolButton* button = session_.toolbox.findButton(tool.buttonId);
-  if (button == nullptr) return session_.chooseTool({.command = kSelectTool});
-  const bool drags = tool.drawMode != kPointDrawMode;
-  session_.event = {at.x,          at.y,   shift, control, drags ? Value(at.x) : Value(), drags ? Value(at.y) : Value(),
+  if (button == nullptr) return session_.chooseTool({.command = tools::kSelect});
+  const bool drags = tool.drawMode != draw_modes::kPoint;
+  session_.event = {from.x,        from.y, shift, control, drags ? Value(to.x) : Value(), drags ? Value(to.y) : Value(),
                     tool.buttonId, Value()};
   const std::string method = button->method;
   const std::string text = message(session_.event);
   const std::shared_ptr<platform::CallbackObject> callback = session_.callback;
   if (callback && !method.empty()) callback->invoke(method, text);
+}
+
+void MapWindow::layersSwitched(const std::vector<LayerSwitches>& layers) {
+  if (layers.size() != map_.layers.size()) return;
+  for (std::size_t i = 0; i < layers.size(); ++i) switchLayer(map_.layers[i], layers[i]);
+  quietly([&] { changed(); });
 }
 
 void MapWindow::menuChosen(std::size_t entry) {
@@ -163,21 +209,53 @@ void MapWindow::choose(const MenuEntry& chosen) {
 void MapWindow::legendClosed() { session_.legend.open = false; }
 
 void MapWindow::zoomedBy(double factor, Point aroundPixel) {
-  quietly([&] { zoomBy(factor, aroundPixel); });
+  change([&] { return zoomAround(map_, factor, aroundPixel); });
 }
 
-void MapWindow::zoomBy(double factor, Point aroundPixel) {
-  const Point fixed = map_.toMap(aroundPixel);
-  const double zoom = zoomWithin(map_, map_.zoomMetres * factor);
-  if (zoom == map_.zoomMetres) return;
-  map_.zoomMetres = zoom;
-  putUnder(map_, fixed, aroundPixel);
-  changed();
+void MapWindow::zoomedIntoBox(const Box& pixels) {
+  change([&] { return zoomIntoBox(map_, pixels); });
+}
+
+void MapWindow::zoomedOutOfBox(const Box& pixels) {
+  change([&] { return zoomOutOfBox(map_, pixels); });
 }
 
 void MapWindow::pannedBy(double pixelX, double pixelY) {
+  change([&] { return panBy(map_, pixelX, pixelY); });
+}
+
+void MapWindow::labelPut(const Hit& object) {
   quietly([&] {
-    putUnder(map_, map_.centre, {map_.pixelWidth / 2.0 + pixelX, map_.pixelHeight / 2.0 + pixelY});
+    putHandLabel(map_, object);
+    changed();
+  });
+}
+
+void MapWindow::labelRemoved(const Hit& object) {
+  quietly([&] {
+    removeLabel(map_, object);
+    changed();
+  });
+}
+
+void MapWindow::labelMoved(const Hit& object, Point anchorInMap) {
+  quietly([&] {
+    moveLabel(map_, object, anchorInMap);
+    changed();
+  });
+}
+
+void MapWindow::shownEntire() {
+  quietly([&] {
+    showEntire(map_);
+    changed();
+  });
+}
+
+void MapWindow::shownEntire(std::size_t layer) {
+  if (layer >= map_.layers.size()) return;
+  quietly([&] {
+    showEntire(map_, map_.layers[layer]);
     changed();
   });
 }
@@ -199,17 +277,13 @@ void MapWindow::selectAt(Point pixel) {
       contents.data.emplace_back(ResultContents::SourceColumn{0, column});
     session_.tables.select(std::make_shared<const ResultTable>(std::move(contents)));
   }
-  session_.allMapsChanged();
+  session_.allMapsChangedAbove();
 }
 
 void MapWindow::labelAt(Point pixel) {
-  const std::vector<Hit> hits = objectsAt(map_, map_.toMap(pixel));
-  if (hits.empty()) return;
-  std::vector<EditedLabel>& labels = map_.layers[hits.front().layer].label.edited;
-  const RowId row = hits.front().row;
-  if (std::any_of(labels.begin(), labels.end(), [&](const EditedLabel& l) { return l.row == row; })) return;
-  labels.emplace_back().row = row;
-  changed();
+  const std::optional<Hit> object = labelableAt(map_, map_.toMap(pixel));
+  if (!object) return;
+  hasHandLabel(map_, *object) ? labelRemoved(*object) : labelPut(*object);
 }
 
 }  // namespace motor

@@ -1,11 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "motor/map/map.h"
 #include "motor/session/toolbox.h"
+#include "motor/tables/result_table.h"
 
 namespace motor {
 
@@ -36,6 +39,13 @@ struct SelectedRows {
   std::vector<RowId> rows;
 };
 
+// What the user may switch about a layer.
+struct LayerSwitches {
+  bool shown = true;
+  bool selectable = true;  // not of a theme, nor the next
+  bool labelled = false;   // every object, by itself
+};
+
 // One map window of a session. Toolkit windows paint `map()` and report what the user does; the rest is decided here.
 class MapWindow {
  public:
@@ -53,12 +63,20 @@ class MapWindow {
   [[nodiscard]] Tool tool() const;
   [[nodiscard]] const std::vector<MenuEntry>& shortcutMenu() const;
   [[nodiscard]] SelectedRows selectedRows() const;
+  // What is selected, or null. Another selection is another object.
+  [[nodiscard]] std::shared_ptr<const ResultTable> selection() const;
+  // The objects under a pixel that the current tool is for, the one it acts on first: the select tool takes the topmost
+  // one that is selectable, the label tool the topmost one that may be labelled; to the others all that is seen there
+  // counts, and the smallest comes first.
+  [[nodiscard]] std::vector<Hit> pointedAt(Point pixel) const;
   // The handle of the window that the ruler's window lies in, or 0.
   [[nodiscard]] std::int64_t rulerParent() const;
   // Increases whenever something that is painted has changed.
   [[nodiscard]] std::uint64_t revision() const { return revision_; }
   // Something that is painted has changed: tells the port.
   void changed();
+  // Only what lies above the map has changed, such as the selection: tells the port.
+  void changedAbove();
 
   // --- what the user does; pixels from the window's top left. Nobody hears of what goes wrong: no exception but the
   // end of the program leaves these. A callback may close this window: nothing of it is to be used after `clicked` and
@@ -71,21 +89,34 @@ class MapWindow {
   void clicked(Point pixel, bool shift, bool control);
   // The same, at a point of the session's coordinates, which the callback gets as it is.
   void clickedAt(Point inSession, bool shift, bool control);
-  // Factor > 1 shows more; the point under the pixel stays there. The map's width stays between that of a house and
-  // some times the entire map; a width beyond that, which a statement set, may only come nearer.
+  // A drag with a button of the program's own, which calls back with both ends of what was drawn.
+  void dragged(Point fromPixel, Point toPixel, bool shift, bool control);
+  // As in hand_zoom.h.
   void zoomedBy(double factor, Point aroundPixel);
-  void pannedBy(double pixelX, double pixelY);  // the map moves along with the pointer
-  void menuChosen(std::size_t entry);           // an index into shortcutMenu()
-  void legendClosed();                          // the legend's window, by its own close box
+  void zoomedIntoBox(const Box& pixels);
+  void zoomedOutOfBox(const Box& pixels);
+  void pannedBy(double pixelX, double pixelY);
+  // As in hand_labels.h.
+  void labelPut(const Hit& object);
+  void labelRemoved(const Hit& object);
+  void labelMoved(const Hit& object, Point anchorInMap);
+  void shownEntire();                   // the whole map
+  void shownEntire(std::size_t layer);  // the objects of a layer, an index into the map's layers
+  // By layer, from the top down; without effect when these are not the layers that the map has.
+  void layersSwitched(const std::vector<LayerSwitches>& layers);
+  void menuChosen(std::size_t entry);  // an index into shortcutMenu()
+  void legendClosed();                 // the legend's window, by its own close box
 
  private:
   friend class SessionState;
   void use(const Tool& tool, Point pixel, bool shift, bool control);
-  void clickedWithOwnButton(const Tool& tool, Point inSession, bool shift, bool control);
+  void calledBackWith(const Tool& tool, Point from, Point to, bool shift, bool control);
   void choose(const MenuEntry& entry);
-  void zoomBy(double factor, Point aroundPixel);
   void selectAt(Point pixel);
   void labelAt(Point pixel);
+  [[nodiscard]] Point inSession(Point pixel) const;
+  template <typename Action>
+  void change(Action action);
 
   SessionState& session_;
   std::int32_t id_;

@@ -13,7 +13,7 @@ void chooseTool(SessionState& session, MapWindow* /*window*/, int code) { sessio
 
 void unselectAll(SessionState& session, MapWindow* /*window*/, int /*code*/) {
   session.tables.deselect();
-  session.allMapsChanged();
+  session.allMapsChangedAbove();
 }
 
 // Commands with a dialog; without a screen there is nothing to do.

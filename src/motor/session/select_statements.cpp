@@ -10,7 +10,7 @@ void execute(SessionState& session, const SelectStatement& statement) {
   if (statement.into) session.tables.put(name, rows);
   if (statement.noSelect) return;
   session.tables.select(std::move(rows), name);
-  session.allMapsChanged();
+  session.allMapsChangedAbove();
 }
 
 void execute(SessionState& session, const Fetch& statement) {

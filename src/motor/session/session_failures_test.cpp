@@ -121,6 +121,23 @@ TEST_F(SessionTest, nothingButTheProgramsEndLeavesWhatTheUserDoes) {
         map().zoomedBy(2, {5, 5});
       },
       [&] { map().pannedBy(5, 5); },
+      [&] {
+        map().zoomedIntoBox({5, 5, 50, 50});
+      },
+      [&] {
+        map().zoomedOutOfBox({5, 5, 50, 50});
+      },
+      [&] {
+        map().labelPut({0, 1});
+      },
+      [&] {
+        map().labelMoved({0, 1}, {-3, 41});
+      },
+      [&] {
+        map().labelRemoved({0, 1});
+      },
+      [&] { map().shownEntire(); },
+      [&] { map().shownEntire(0); },
       [&] { map().menuChosen(0); },
   };
   for (std::size_t i = 0; i < actions.size(); ++i) {

@@ -119,11 +119,15 @@ MapWindow& SessionState::windowOrFront(const ExpressionPtr& id) const {
 void SessionState::chooseTool(const Tool& tool) {
   toolbox.choose(tool);
   rulerOpen = tool.command == kRulerTool;
-  allMapsChanged();
+  allMapsChangedAbove();
 }
 
 void SessionState::allMapsChanged() {
   for (const auto& window : windows_) window->changed();
+}
+
+void SessionState::allMapsChangedAbove() {
+  for (const auto& window : windows_) window->changedAbove();
 }
 
 double SessionState::number(const ExpressionPtr& expression) const {

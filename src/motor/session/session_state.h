@@ -91,6 +91,8 @@ class SessionState {
   // The window of an id expression, or the front map when it was left out. Throws EngineError when there is none.
   [[nodiscard]] MapWindow& windowOrFront(const ExpressionPtr& id) const;
   void allMapsChanged();
+  // Only what lies above the maps has changed: the selection, the tool in the user's hand.
+  void allMapsChangedAbove();
   // The tool in the user's hand from now on; choosing the ruler opens its window, choosing another closes it.
   void chooseTool(const Tool& tool);
 

@@ -6,13 +6,37 @@
 
 namespace motor {
 
-// The tool in the user's hand on a map: a standard one by its menu command code (1701 select, 1702 grabber, 1705 zoom
-// in, 1706 zoom out, 1707 info, 1708 labeller, 1710 ruler, 1734 drag map), or a button of the program's own.
+// The standard tools that a map window has at work, by their menu command codes.
+namespace tools {
+inline constexpr int kSelect = 1701;
+inline constexpr int kGrabber = 1702;
+inline constexpr int kZoomIn = 1705;
+inline constexpr int kZoomOut = 1706;
+inline constexpr int kInfo = 1707;
+inline constexpr int kLabel = 1708;
+inline constexpr int kRuler = 1710;
+inline constexpr int kDragMap = 1734;
+}  // namespace tools
+
+// What a button of the program's own lets the user draw.
+namespace draw_modes {
+inline constexpr int kCircle = 30;
+inline constexpr int kEllipse = 31;
+inline constexpr int kRectangle = 32;
+inline constexpr int kLine = 33;
+inline constexpr int kPoint = 34;
+inline constexpr int kPolygon = 35;
+inline constexpr int kPolyline = 36;
+}  // namespace draw_modes
+
+// The tool in the user's hand on a map: a standard one, or a button of the program's own.
 struct Tool {
-  int command = 1701;  // 0 for a button of the program's own
-  int buttonId = 0;    // of such a button
-  int drawMode = 34;
+  int command = tools::kSelect;  // 0 for a button of the program's own
+  int buttonId = 0;              // of such a button
+  int drawMode = draw_modes::kPoint;
   int cursor = 0;
+
+  bool operator==(const Tool&) const = default;
 };
 
 // An entry of the map's shortcut menu.
@@ -26,7 +50,7 @@ struct MenuEntry {
 // A tool button of the program's own.
 struct ToolButton {
   int id = 0;
-  int drawMode = 34;
+  int drawMode = draw_modes::kPoint;
   int cursor = 0;
   std::string method;  // the callback method, or ""
 };

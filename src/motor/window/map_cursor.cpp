@@ -7,8 +7,6 @@ namespace motor {
 
 namespace {
 
-constexpr int kGrabber = 1702;
-constexpr int kDragMap = 1734;
 // Cursors that the toolkit does not have and that are drawn here.
 constexpr int kMagnify = -1;
 constexpr int kReduce = -2;
@@ -19,9 +17,9 @@ struct Row {
 };
 
 constexpr Row kToolCursors[] = {
-    {1701, Qt::ArrowCursor}, {kGrabber, Qt::OpenHandCursor}, {1705, kMagnify},
-    {1706, kReduce},         {1707, Qt::WhatsThisCursor},    {1708, Qt::PointingHandCursor},
-    {1710, Qt::CrossCursor}, {kDragMap, Qt::DragCopyCursor},
+    {tools::kSelect, Qt::ArrowCursor}, {tools::kGrabber, Qt::OpenHandCursor}, {tools::kZoomIn, kMagnify},
+    {tools::kZoomOut, kReduce},        {tools::kInfo, Qt::WhatsThisCursor},   {tools::kLabel, Qt::PointingHandCursor},
+    {tools::kRuler, Qt::CrossCursor},  {tools::kDragMap, Qt::DragCopyCursor},
 };
 
 constexpr Row kButtonCursors[] = {
@@ -62,7 +60,5 @@ QCursor cursorFor(const Tool& tool) {
   if (shape == kMagnify || shape == kReduce) return magnifier(shape == kMagnify);
   return QCursor(static_cast<Qt::CursorShape>(shape));
 }
-
-bool pansByDragging(const Tool& tool) { return tool.command == kGrabber; }
 
 }  // namespace motor

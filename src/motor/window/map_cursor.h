@@ -9,7 +9,4 @@ namespace motor {
 // The pointer's shape for a tool: a standard tool's own, or the cursor number that a button of the program's own has.
 [[nodiscard]] QCursor cursorFor(const Tool& tool);
 
-// Whether dragging with this tool moves the map.
-[[nodiscard]] bool pansByDragging(const Tool& tool);
-
 }  // namespace motor

@@ -30,6 +30,15 @@ void MapPicture::render(const Map& map, const Key& key, Quality quality, const Q
   ++renderCount_;
 }
 
+std::vector<PaintedText> MapPicture::texts(const Map& map, const Key& key, const QRectF& withoutLabels) {
+  TextRecorder recorder(key.size);
+  QPainter painter(&recorder);
+  painter_.keepLabelsOff({withoutLabels});
+  painter_.paint(painter, map, key.size, key.devicePixelRatio, Quality::best);
+  painter.end();
+  return recorder.texts();
+}
+
 std::optional<Quality> MapPicture::qualityForMoving() const {
   if (bestMilliseconds_ <= kFrameMilliseconds) return Quality::best;
   if (fastMilliseconds_ <= kFrameMilliseconds) return Quality::fast;

@@ -5,9 +5,11 @@
 #include <QRectF>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "motor/drawing/map_painter.h"
 #include "motor/map/map.h"
+#include "motor/window/overlays/text_recorder.h"
 
 namespace motor {
 
@@ -30,6 +32,8 @@ class MapPicture {
   [[nodiscard]] bool covers(const Map& map, QSizeF size) const;
   // Labels keep off `withoutLabels`, in logical pixels.
   void render(const Map& map, const Key& key, Quality quality, const QRectF& withoutLabels);
+  // The texts that stand on the picture when it is painted like that.
+  [[nodiscard]] std::vector<PaintedText> texts(const Map& map, const Key& key, const QRectF& withoutLabels);
   // The best quality at which the map can be painted again while it moves; none when it takes too long at any.
   [[nodiscard]] std::optional<Quality> qualityForMoving() const;
 

@@ -1,18 +1,19 @@
 #include "motor/window/map_widget.h"
 
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleHints>
+#include <QPointer>
 #include <QWheelEvent>
 #include <cmath>
 
-#include "motor/drawing/scale_bar.h"
-#include "motor/session/map_view.h"
-#include "motor/window/map_cursor.h"
+#include "motor/window/export/map_mime_data.h"
+#include "motor/window/tools/tool_for.h"
 
 namespace motor {
 
@@ -27,8 +28,8 @@ constexpr double kScaleBarPixels = 110;
 constexpr double kScaleBarInset = 8;
 constexpr double kRingPixels = 2;
 constexpr QColor kEdge(31, 42, 60, 40);
-
-Point toPoint(QPointF p) { return {p.x(), p.y()}; }
+constexpr int kDraggedWidth = 180;  // of the small picture that goes along with the pointer
+constexpr double kDraggedOpacity = 0.8;
 
 struct KeyMove {
   int key;
@@ -41,25 +42,33 @@ constexpr KeyMove kKeyMoves[] = {
     {Qt::Key_Down, 0, -kKeyShare},
 };
 
+Pointer pointerOf(const QMouseEvent& event) { return {event.position(), event.modifiers()}; }
+
 }  // namespace
 
 MapWidget::MapWidget(MapWindow& window) : window_(&window) {
   setAccessibleName(QStringLiteral("Mapa"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
   settle_.setSingleShot(true);
   settle_.setInterval(kSettleMilliseconds);
-  connect(&settle_, &QTimer::timeout, this, [this] { update(); });
+  connect(&settle_, &QTimer::timeout, this, [this] { settle(); });
   updateCursor();
 }
 
+MapWidget::~MapWidget() = default;
+
 void MapWidget::refresh() {
+  useCurrentTool();
   updateCursor();
   update();
 }
 
 void MapWidget::detach() {
   window_ = nullptr;
+  held_.reset();
+  hover_.clear();
   settle_.stop();
   update();
 }
@@ -75,14 +84,87 @@ void MapWidget::reportSize() {
   window_->resized(width(), height());
 }
 
-void MapWidget::updateCursor() {
-  if (window_ == nullptr) return unsetCursor();
-  if (drag_ == Drag::pan) return setCursor(Qt::ClosedHandCursor);
-  if (spaceHeld_) return setCursor(Qt::OpenHandCursor);
-  setCursor(cursorFor(window_->tool()));
+// --- tools ---
+
+// A tool that is laid down leaves nothing behind. It may be the one that is just telling the map window something, so
+// whoever calls a tool holds it.
+void MapWidget::useCurrentTool() {
+  if (window_ == nullptr || (tool_ && tool_->tool() == window_->tool())) return;
+  if (held_ == tool_) held_.reset();
+  tool_ = toolFor(window_->tool(), *this);
+  lightUp();
 }
 
-void MapWidget::startMoving() { settle_.start(); }
+MapTool& MapWidget::tool() {
+  useCurrentTool();
+  return *tool_;
+}
+
+void MapWidget::updateCursor() {
+  if (window_ == nullptr) return unsetCursor();
+  if (held_) return setCursor(held_->cursor());
+  setCursor(spaceHeld_ ? QCursor(Qt::OpenHandCursor) : tool().cursor());
+}
+
+void MapWidget::startMoving() {
+  settle_.start();
+  if (hover_.clear()) update();
+}
+
+// The map rests: it is painted at its best, and what is under the pointer lights up again.
+void MapWidget::settle() {
+  lightUp();
+  update();
+}
+
+void MapWidget::lightUp() {
+  if (window_ == nullptr) return;
+  hoverRevision_ = window_->revision();
+  const bool lights = pointer_ && !held_ && !settle_.isActive() && !spaceHeld_ && tool_ && tool_->lightsObjects();
+  if (lights ? hover_.pointTo(*window_, *pointer_) : hover_.clear()) update();
+}
+
+const PlacedLabels& MapWidget::labels() {
+  const MapPicture::Key key = pictureKey();
+  if (labelsKey_ != key) {
+    const std::vector<PaintedText> texts =
+        picture_.texts(window_->map(), key, scaleBarPlate(scaleBar(), scaleBarCorner()));
+    labels_ = PlacedLabels(window_->map(), size(), texts, texts_);
+    labelsKey_ = key;
+  }
+  return labels_;
+}
+
+// The picture is there to be taken while the drag lasts; the session may end meanwhile.
+void MapWidget::takeOut() {
+  if (window_ == nullptr) return;
+  auto* drag = new QDrag(this);  // the toolkit deletes it when it is over
+  drag->setMimeData(new MapMimeData(window_->map(), size()));
+  const double scale = std::min(1.0, static_cast<double>(kDraggedWidth) / width());
+  QPixmap small((QSizeF(size()) * scale).toSize());
+  small.fill(Qt::transparent);
+  QPainter painter(&small);
+  painter.setOpacity(kDraggedOpacity);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.scale(scale, scale);
+  picture_.paint(painter, window_->map(), size());
+  painter.resetTransform();
+  painter.setPen(kEdge);
+  painter.drawRect(small.rect().adjusted(0, 0, -1, -1));
+  painter.end();
+  drag->setPixmap(small);
+  drag->setHotSpot(small.rect().center());
+  held_.reset();  // the toolkit keeps the release of the button for itself
+  drag->exec(Qt::CopyAction);
+}
+
+void MapWidget::copy() {
+  if (window_ != nullptr) QGuiApplication::clipboard()->setMimeData(new MapMimeData(window_->map(), size()));
+}
+
+// --- painting ---
+
+MapPicture::Key MapWidget::pictureKey() const { return {window_->revision(), size(), devicePixelRatioF()}; }
 
 void MapWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
@@ -90,8 +172,14 @@ void MapWidget::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), Qt::white);
     return;
   }
+  if (hoverRevision_ != window_->revision()) lightUp();
   paintMap(painter);
+  const MapView view(window_->map(), size());
+  hover_.paintOutline(painter, view, devicePixelRatioF());
+  selection_.paint(painter, *window_, view, devicePixelRatioF(), settle_.isActive());
   paintScaleBar(painter, scaleBar(), scaleBarCorner());
+  if (tool_) tool_->paint(painter, view);
+  hover_.paintNames(painter, view);
   paintEdge(painter);
   if (showsFocus_ && hasFocus()) paintFocusRing(painter);
 }
@@ -99,7 +187,7 @@ void MapWidget::paintEvent(QPaintEvent*) {
 // While the map is moving a picture that is out of date is shown moved and scaled, unless that leaves a part of the
 // window empty and the map can be painted in time.
 void MapWidget::paintMap(QPainter& painter) {
-  const MapPicture::Key key{window_->revision(), size(), devicePixelRatioF()};
+  const MapPicture::Key key = pictureKey();
   const bool moving = settle_.isActive() && !picture_.isEmpty();
   if (!picture_.isGoodFor(key)) {
     const auto quality = moving ? picture_.qualityForMoving() : Quality::best;
@@ -138,37 +226,57 @@ void MapWidget::paintFocusRing(QPainter& painter) const {
 
 void MapWidget::resizeEvent(QResizeEvent*) { reportSize(); }
 
-void MapWidget::mousePressEvent(QMouseEvent* event) {
-  if (window_ == nullptr) return;
+// --- the mouse ---
+
+void MapWidget::press(QMouseEvent* event, void (MapTool::*begin)(const Pointer&)) {
+  if (window_ == nullptr || held_) return;
   const bool left = event->button() == Qt::LeftButton;
-  const bool pans = event->button() == Qt::MiddleButton || (left && (spaceHeld_ || pansByDragging(window_->tool())));
+  const bool pans = event->button() == Qt::MiddleButton || (left && spaceHeld_);
   if (!left && !pans) return;
-  drag_ = pans ? Drag::pan : Drag::click;
-  pressedAt_ = lastAt_ = event->position();
+  useCurrentTool();
+  const std::shared_ptr<MapTool> tool = pans ? toolFor({.command = tools::kGrabber}, *this) : tool_;
+  held_ = tool;
+  heldButton_ = event->button();
+  pointer_ = event->position();
+  lightUp();
+  ((*tool).*(pans ? &MapTool::press : begin))(pointerOf(*event));
   updateCursor();
 }
 
-// The second press of a double click is a click of its own.
-void MapWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+void MapWidget::mousePressEvent(QMouseEvent* event) { press(event, &MapTool::press); }
+
+void MapWidget::mouseDoubleClickEvent(QMouseEvent* event) { press(event, &MapTool::doublePress); }
 
 void MapWidget::mouseMoveEvent(QMouseEvent* event) {
-  if (window_ == nullptr || drag_ != Drag::pan) return;
-  const QPointF by = event->position() - lastAt_;
-  lastAt_ = event->position();
-  startMoving();
-  window_->pannedBy(by.x(), by.y());
-  update();
+  if (window_ == nullptr) return;
+  pointer_ = event->position();
+  useCurrentTool();
+  const QPointer<MapWidget> self(this);
+  if (const std::shared_ptr<MapTool> held = held_) {
+    held->drag(pointerOf(*event));
+  } else {
+    const std::shared_ptr<MapTool> tool = tool_;
+    tool->hover(pointerOf(*event));
+  }
+  if (self) lightUp();
 }
 
 void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const Drag drag = drag_;
-  drag_ = Drag::none;
+  if (event->button() != heldButton_) return;
+  heldButton_ = Qt::NoButton;
+  const std::shared_ptr<MapTool> held = std::exchange(held_, nullptr);
+  if (window_ == nullptr) return;
+  const QPointer<MapWidget> self(this);
+  if (held) held->release(pointerOf(*event));
+  if (!self) return;
   updateCursor();
-  if (window_ == nullptr || drag != Drag::click || event->button() != Qt::LeftButton) return;
-  const QPointF moved = event->position() - pressedAt_;
-  if (moved.manhattanLength() > QGuiApplication::styleHints()->startDragDistance()) return;
-  const Qt::KeyboardModifiers keys = event->modifiers();
-  window_->clicked(toPoint(pressedAt_), keys.testFlag(Qt::ShiftModifier), keys.testFlag(Qt::ControlModifier));
+  lightUp();
+}
+
+void MapWidget::leaveEvent(QEvent* event) {
+  pointer_.reset();
+  lightUp();
+  QWidget::leaveEvent(event);
 }
 
 void MapWidget::wheelEvent(QWheelEvent* event) {
@@ -179,6 +287,8 @@ void MapWidget::wheelEvent(QWheelEvent* event) {
   update();
   event->accept();
 }
+
+// --- the keyboard ---
 
 bool MapWidget::moveByKey(int key) {
   for (const KeyMove& move : kKeyMoves) {
@@ -195,19 +305,41 @@ bool MapWidget::moveByKey(int key) {
       window_->zoomedBy(1 / kKeyFactor, middle);
       return true;
     case Qt::Key_Home:
-      showEntire(window_->map());
-      window_->changed();
+      window_->shownEntire();
       return true;
     default:
       return false;
   }
 }
 
+// The gesture that is under way, else what the tool in the hand has begun.
+bool MapWidget::giveUp() {
+  const std::shared_ptr<MapTool> tool = held_ ? held_ : tool_;
+  const bool hadBegun = tool && tool->cancel();
+  held_.reset();
+  updateCursor();
+  return hadBegun;
+}
+
+// The keys that the map takes before shortcuts of its window do.
+bool MapWidget::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
 void MapWidget::keyPressEvent(QKeyEvent* event) {
   if (window_ == nullptr) return;
-  if (event->key() == Qt::Key_Space) {
+  if (event->matches(QKeySequence::Copy)) {
+    copy();
+  } else if (event->key() == Qt::Key_Space) {
     spaceHeld_ = true;
+    lightUp();
     updateCursor();
+  } else if ((event->key() == Qt::Key_Escape && giveUp()) || (event->key() == Qt::Key_Backspace && tool().takeBack())) {
+    update();
   } else if (moveByKey(event->key())) {
     startMoving();
     update();
@@ -241,6 +373,8 @@ void MapWidget::focusOutEvent(QFocusEvent* event) {
 
 void MapWidget::contextMenuEvent(QContextMenuEvent* event) {
   if (window_ == nullptr || window_->shortcutMenu().empty()) return;
+  pointer_.reset();
+  lightUp();
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const std::vector<MenuEntry>& entries = window_->shortcutMenu();

@@ -1,24 +1,39 @@
 #include "motor/window/qt_windows.h"
 
-#include <QPrintDialog>
-#include <QPrinter>
+#include <QCoreApplication>
 
-#include "motor/session/map_view.h"
-#include "motor/window/map_printing.h"
+#include "motor/window/dialogs/layer_chooser.h"
+#include "motor/window/dialogs/layer_control.h"
+#include "motor/window/printing/print_preview.h"
 
 namespace motor {
 
 namespace {
 
-constexpr int kPrint = 112;
-constexpr int kViewEntireLayer = 807;
-
-void askAndPrint(const Map& map, QWidget* parent) {
-  QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, parent);
-  dialog.setWindowTitle(QStringLiteral("Imprimir el mapa"));
-  if (dialog.exec() == QDialog::Accepted) printMap(printer, map);
+// The title of the window that a map lies in, or else the application's name.
+QString applicationTitle(const QWidget& map) {
+  const QString title = map.window()->windowTitle();
+  return title.isEmpty() ? QCoreApplication::applicationName() : title;
 }
+
+// Dialogs over a map. None of them keeps whoever asked for it waiting, and all go with the map.
+
+void askAndPrint(MapWidget& map) {
+  const MapWindow& window = *map.mapWindow();
+  auto* dialog = new PrintPreview(window.map(), pageTexts(window, applicationTitle(map), QDate::currentDate()), &map);
+  dialog->open();
+}
+
+void chooseLayer(MapWidget& map) { (new LayerChooser(map))->open(); }
+
+void controlLayers(MapWidget& map) { (new LayerControl(map))->open(); }
+
+struct Command {
+  int code;
+  void (*show)(MapWidget& map);
+};
+
+constexpr Command kCommands[] = {{112, askAndPrint}, {801, controlLayers}, {807, chooseLayer}};
 
 }  // namespace
 
@@ -84,17 +99,13 @@ void QtWindows::hideLegend() { delete legend_.data(); }
 std::int64_t QtWindows::legendHandle() { return legend_ == nullptr ? 0 : handles_.handleOf(*legend_); }
 
 bool QtWindows::command(MapWindow& window, int code) {
-  switch (code) {
-    case kPrint:
-      askAndPrint(window.map(), widgetOf(window));
-      return true;
-    case kViewEntireLayer:
-      showEntire(window.map());
-      window.changed();
-      return true;
-    default:
-      return false;
+  MapWidget* map = widgetOf(window);
+  for (const Command& command : kCommands) {
+    if (map == nullptr || command.code != code) continue;
+    command.show(*map);
+    return true;
   }
+  return false;
 }
 
 }  // namespace motor

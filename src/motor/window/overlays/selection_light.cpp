@@ -1,0 +1,84 @@
+#include "motor/window/overlays/selection_light.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "motor/map/projected_objects.h"
+
+namespace motor {
+
+namespace {
+
+constexpr QColor kEdge(255, 255, 255, 200);
+constexpr QColor kLine(232, 89, 12);
+constexpr double kEdgeWidth = 4.6;
+constexpr double kLineWidth = 2.2;
+constexpr int kFewPoints = 3000;  // as many are marked anew in no time
+
+bool shows(const Map& map, const TablePtr& table) {
+  return std::any_of(map.layers.begin(), map.layers.end(),
+                     [&](const Layer& layer) { return layer.table == table && layer.isDrawnAt(map.zoomMetres); });
+}
+
+void mark(QPainter& painter, const QPainterPath& outline) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.strokePath(outline, QPen(kEdge, kEdgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.strokePath(outline, QPen(kLine, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.restore();
+}
+
+}  // namespace
+
+bool SelectionLight::findObjects(const MapWindow& window) {
+  const auto selection = window.selection();
+  if (selection == selection_ && window.revision() == revision_) return false;
+  const std::vector<ObjectPtr> before = std::exchange(objects_, {});
+  selection_ = selection;
+  revision_ = window.revision();
+  outlines_.dropUnused();
+  if (!selection_ || !shows(window.map(), selection_->base().table)) return !before.empty();
+  const auto set = projectedObjects(selection_->base().table, window.map().coordinateSystem);
+  std::vector<bool> isSelected(set->objects().size(), false);
+  for (const RowId row : selection_->contents().rows.front()) {
+    const std::uint32_t index = set->indexOf(row);
+    if (index == ObjectSet::kNone || isSelected[index]) continue;
+    isSelected[index] = true;
+    objects_.push_back(set->objects()[index]);
+  }
+  if (objects_.size() == set->objects().size() && objects_.size() > 1) objects_.clear();
+  return objects_ != before;
+}
+
+QPainterPath SelectionLight::outline(const MapView& view, double devicePixelRatio) {
+  const Box seen = reachOf(view);
+  QPainterPath path;
+  for (const ObjectPtr& object : objects_) {
+    if (object->bounds.intersects(seen)) path.addPath(outlines_.of(object, view, devicePixelRatio));
+  }
+  return path;
+}
+
+void SelectionLight::paint(QPainter& painter, const MapWindow& window, const MapView& view, double devicePixelRatio,
+                           bool moving) {
+  if (findObjects(window)) marks_ = {};
+  if (objects_.empty()) return;
+  const Box shown = view.toMap(view.rect());
+  const QSize pixels = (view.rect().size() * devicePixelRatio).toSize();
+  const bool isGood = !marks_.isNull() && shown == shown_ && marks_.size() == pixels;
+  if (!isGood && (marks_.isNull() || !moving)) {
+    marks_ = {};
+    const QPainterPath path = outline(view, devicePixelRatio);
+    if (path.elementCount() <= kFewPoints) return mark(painter, path);
+    marks_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+    marks_.setDevicePixelRatio(devicePixelRatio);
+    marks_.fill(Qt::transparent);
+    QPainter marksPainter(&marks_);
+    mark(marksPainter, path);
+    shown_ = shown;
+  }
+  painter.drawImage(view.toPixels(shown_), marks_);
+}
+
+}  // namespace motor
