@@ -1,17 +1,15 @@
 #include "study/application_folder.h"
 
 #include <algorithm>
-#include <array>
-#include <fstream>
 
 #include "study/methods/figure_book.h"
 #include "study/model/study_error.h"
 #include "study/output/map_workspaces.h"
-#include "study/output/output_folder.h"
 #include "study/output/statistics_table.h"
 #include "study/output/workspace_text.h"
 #include "study/output/year_tables.h"
 #include "study/pages/documents.h"
+#include "study/pages/report_years.h"
 #include "study/pages/table_pages.h"
 #include "study/reports/report.h"
 #include "study/thematic/catalogue.h"
@@ -22,14 +20,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The program has a button for the reports of these years only.
-constexpr std::array kReportYears{1999, 2000, 2001};
-
 void writeYearMaps(const Study& study, const FigureBook& book, const fs::path& tables, const Progress& progress) {
   const MapProjection projection = mapProjection(study);
   for (std::size_t year = 0; year < study.years.size(); ++year) {
     const std::string name = std::to_string(study.years[year]);
-    progress("maps of " + name);
+    progress("Making the maps of " + name);
     fs::create_directories(tables / name);
     writeYearTables(study, book, year, tables / name);
     writeWorkspace(tables / name / ("Año" + name + ".wor"), yearWorkspace(study.years[year], projection));
@@ -47,39 +42,28 @@ void writeReports(const Study& study, const FigureBook& book, const fs::path& do
   fs::create_directories(documents);
   for (std::size_t year = 0; year < study.years.size(); ++year) {
     const int number = study.years[year];
-    if (std::find(kReportYears.begin(), kReportYears.end(), number) == kReportYears.end()) continue;
-    progress("report of " + std::to_string(number));
+    if (!pages::hasReport(number)) continue;
+    progress("Writing the report of " + std::to_string(number));
     writeReport(study, book, year, documents / ("mortalidad_" + std::to_string(number) + ".pdf"));
   }
-}
-
-void writeMark(const fs::path& folder) {
-  std::ofstream mark(folder / kStudyMark, std::ios::binary);
-  mark << "Mortalidad en Veldoria 1999-2002\r\n\r\n"
-          "Esta carpeta contiene los datos de un estudio de mortalidad. Se puede volver a generar:\r\n"
-          "lo que haya en sus carpetas Tablas, Archivos y Ayuda se sustituye entonces.\r\n";
-  mark.close();
-  if (!mark) throw StudyError("the file " + (folder / kStudyMark).string() + " could not be written");
 }
 
 }  // namespace
 
 void writeApplicationFolder(const Study& study, const fs::path& folder, const Progress& progress) {
-  progress("figures of all units");
+  progress("Computing the figures of all units");
   const FigureBook book(study);
   const fs::path tables = folder / "Tablas";
   try {
     writeYearMaps(study, book, tables, progress);
-    progress("statistics map");
+    progress("Making the statistics map");
     writeStatisticsMap(study, tables);
-    progress("thematic maps");
-    writeCatalogue(study, book, tables);
-    progress("tables");
+    writeCatalogue(study, book, tables, progress);
+    progress("Writing the statistical tables");
     pages::writeTablePages(study, folder);
-    progress("documents");
+    progress("Writing the documents");
     pages::writeDocuments(study, folder);
     writeReports(study, book, folder / "Archivos", progress);
-    writeMark(folder);
   } catch (const fs::filesystem_error& error) {
     throw StudyError(std::string("the study could not be written: ") + error.what());
   }

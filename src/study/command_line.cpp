@@ -12,6 +12,7 @@
 #include "study/model/study_error.h"
 #include "study/output/output_folder.h"
 #include "study/reports/offscreen_toolkit.h"
+#include "study/interruption.h"
 #include "study/temporary_folder.h"
 
 namespace study {
@@ -36,12 +37,18 @@ struct UsageError : std::runtime_error {
 
 void build(const std::filesystem::path& input, const std::string& output, const Progress& progress) {
   OutputFolder folder(output);
+  folder.refuseInput(input);
   const Study study = readInput(input, progress);
   const reports::OffscreenToolkit toolkit;
-  writeApplicationFolder(study, folder.draft(), progress);
-  progress("moving the study to its place");
-  folder.commit();
-  progress("done: " + std::to_string(study.provinces.size()) + " provinces, " + std::to_string(study.zones.size()) +
+  try {
+    writeApplicationFolder(study, folder.openDraft(), progress);
+    progress("Moving the study to its place");
+    folder.commit();
+  } catch (const StudyError&) {
+    if (const std::string reason = folder.whyFull(); !reason.empty()) throw StudyError(reason);
+    throw;
+  }
+  progress("Done: " + std::to_string(study.provinces.size()) + " provinces, " + std::to_string(study.zones.size()) +
            " basic health zones in " + output);
 }
 
@@ -122,13 +129,20 @@ int run(std::span<const std::string> arguments, std::ostream& out, std::ostream&
   try {
     const auto command = commands().find(arguments[0]);
     if (command == commands().end()) throw UsageError("");
-    command->second(arguments.subspan(1), [&](const std::string& step) { out << step << std::endl; });
+    const Interruption interruption;
+    command->second(arguments.subspan(1), [&](const std::string& step) {
+      if (!step.empty()) out << step << std::endl;
+      interruption.check();
+    });
     return 0;
   } catch (const UsageError& error) {
     if (*error.what() != '\0') err << "study: " << error.what() << '\n';
     err << kUsage;
   } catch (const InputFaults& faults) {
     err << faults.what() << "\nstudy: nothing was written" << std::endl;
+  } catch (const Interrupted& interrupted) {
+    err << "study: interrupted; nothing was written" << std::endl;
+    return 128 + interrupted.signal;
   } catch (const std::exception& error) {
     err << "study: " << error.what() << std::endl;
   }

@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <limits>
 
 namespace text {
 
@@ -19,15 +18,35 @@ std::string fixed(double number, int decimals) {
   return {text.data(), end};
 }
 
+// Adds one to the last of some digits, which may have a point between them.
+void countUp(std::string& digits) {
+  for (std::size_t i = digits.size(); i-- > 0;) {
+    if (digits[i] == '.') continue;
+    if (digits[i] != '9') {
+      ++digits[i];
+      return;
+    }
+    digits[i] = '0';
+  }
+  digits.insert(digits.begin(), '1');
+}
+
 // The number as written in decimal, so that 0.145 rounds to 0.15 although its binary neighbour lies below.
 std::string rounded(double number, int decimals) {
   constexpr int kDigits = 15;  // that a double always holds
   const double magnitude = std::fabs(number);
-  const int whole = magnitude < 1 ? 1 : static_cast<int>(std::floor(std::log10(magnitude))) + 1;
-  const std::string text = fixed(magnitude, std::max(0, kDigits - whole));
-  double written = magnitude;
-  std::from_chars(text.data(), text.data() + text.size(), written);
-  return fixed(std::nextafter(written, std::numeric_limits<double>::infinity()), decimals);
+  const int whole = magnitude > 0 ? static_cast<int>(std::floor(std::log10(magnitude))) + 1 : 1;
+  const int written = std::clamp(kDigits - whole, 0, 2 * kDigits);
+  std::string digits = fixed(magnitude, written);
+  if (decimals >= written) {
+    if (written == 0 && decimals > 0) digits += '.';
+    return digits.append(static_cast<std::size_t>(decimals - written), '0');
+  }
+  const bool isUp = digits[digits.size() - static_cast<std::size_t>(written - decimals)] >= '5';
+  digits.resize(digits.size() - static_cast<std::size_t>(written - decimals));
+  if (digits.back() == '.') digits.pop_back();
+  if (isUp) countUp(digits);
+  return digits;
 }
 
 }  // namespace

@@ -127,7 +127,7 @@ ShownFigures indicators(const std::string& year, const std::string& sex, bool wi
   ShownFigures expected;
   rawFigures().each(kIndicatorsQuery, {year, sex, withZones ? "ZonasBasicas" : ""}, [&](const ResultRow& row) {
     const double deaths = row.number(2);
-    const std::string limits = "Límites de confianza (95 %)/";
+    const std::string limits = "Límites de confianza (95\u00A0%)/";
     const auto enter = [&](const std::string& column, const Shown& shown) {
       expected[{"0", "", row.text(0), column}] = shown;
     };

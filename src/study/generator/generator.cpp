@@ -34,12 +34,12 @@ void generateInput(const GeneratorSettings& settings, const std::filesystem::pat
   };
   check(settings);
   prepare(folder);
-  begin("the region's provinces and zones");
+  begin("Drawing the provinces and zones of a fictional region");
   const Region region = makeRegion(settings);
   writeZones(region, folder / kFiles[3]);
-  begin("persons and deaths");
+  begin("Counting its persons and deaths");
   writeCounts(region, settings, folder / kFiles[1], folder / kFiles[0]);
-  begin("causes and settings");
+  begin("Writing its causes and settings");
   writeCauses(folder / kFiles[2]);
   writeSettings(settings, folder / kFiles[4]);
 }

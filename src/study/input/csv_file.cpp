@@ -53,6 +53,12 @@ void CsvFile::readHeader() {
   }
   const std::vector<std::string_view>& names = records_->fields();
   fieldCount_ = names.size();
+  if (fieldCount_ == 1 && columns_.size() > 1 && names.front().find('\t') != std::string_view::npos) {
+    fault(FaultKind::wrongSeparator, "the columns are separated by tabs",
+          "save the file with commas or semicolons between the fields");
+    records_.reset();
+    return;
+  }
   for (std::size_t i = 0; i < names.size(); ++i) placeColumn(i, trimmed(names[i]));
   bool isComplete = true;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
@@ -84,7 +90,9 @@ bool CsvFile::next() {
       if (state == CsvRecords::State::unclosedQuote) return false;
       continue;
     }
-    const std::size_t count = records_->fields().size();
+    const std::vector<std::string_view>& row = records_->fields();
+    if (std::all_of(row.begin(), row.end(), [](std::string_view field) { return trimmed(field).empty(); })) continue;
+    const std::size_t count = row.size();
     if (count == fieldCount_) return true;
     fault(FaultKind::fieldCount, "the row has " + fields(count) + ", but the first line has " + fields(fieldCount_),
           "give every column one field; put fields that hold a " + inQuotes(std::string_view(&separator_, 1)) +

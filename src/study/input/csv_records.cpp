@@ -1,6 +1,5 @@
 #include "study/input/csv_records.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace study {
@@ -36,7 +35,7 @@ CsvRecords::State CsvRecords::readQuotedField() {
   }
   std::string_view field = text_.substr(start, at_ - start);
   ++at_;
-  nextLine_ += static_cast<std::size_t>(std::count(field.begin(), field.end(), '\n'));
+  nextLine_ += lineEnds(field);
   if (hasDoubled) {
     std::string plain;
     for (std::size_t i = 0; i < field.size(); ++i) {
@@ -72,6 +71,14 @@ CsvRecords::State CsvRecords::next() {
   }
   passLineEnd();
   return state;
+}
+
+std::size_t lineEnds(std::string_view text) {
+  std::size_t ends = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' || (text[i] == '\r' && text.substr(i + 1, 1) != "\n")) ++ends;
+  }
+  return ends;
 }
 
 char separatorOf(std::string_view text) {

@@ -44,6 +44,9 @@ class CsvRecords {
   std::deque<std::string> unquoted_;  // fields that held doubled quotes
 };
 
+// How many lines end in a text, by LF, CRLF or CR.
+[[nodiscard]] std::size_t lineEnds(std::string_view text);
+
 // The semicolon where the first line has one outside quotes, otherwise the comma.
 [[nodiscard]] char separatorOf(std::string_view text);
 

@@ -23,7 +23,8 @@ class Reader {
         study_(study),
         totals_(units.years().size()),
         file_(folder, {log, kDeathsFile}, {{"year"}, {"zone"}, {"sex"}, {"age_group"}, {"cause"}, {"count"}}),
-        deadOf_(units.years().size() * units.zones().size() * kSexes) {
+        isPopulationSound_(isSound(log)),
+        deadOf_(units.years().size() * units.zones().size() * kSexes * study.ages.size()) {
     for (std::size_t i = 0; i < study.causes.codes.size(); ++i) causes_.emplace(study.causes.codes[i], i);
     for (const PublishedCause& published : study.causes.published) {
       for (const std::size_t code : published.sums) restrict(code, published);
@@ -31,7 +32,11 @@ class Reader {
   }
 
   void read() {
-    while (file_.next()) readRow();
+    std::size_t rows = 0;
+    for (; file_.next(); ++rows) readRow();
+    if (file_.isReadable() && rows == 0) {
+      file_.faults().add(FaultKind::noRows, 1, "the file has no row below its first line", "give the deaths");
+    }
     keys_.addDoubleRows(file_.faults());
     checkPopulation();
   }
@@ -41,6 +46,15 @@ class Reader {
   struct Possible {
     std::array<const PublishedCause*, kSexes> excludedBy{};
   };
+
+  // Whether all persons could be entered: otherwise those that are missing are told of already.
+  static bool isSound(const FaultLog& log) {
+    using enum FaultKind;
+    const std::array kinds{missingFile,    fieldCount,       unclosedQuote,  misplacedQuote,  notANumber,
+                           negativeNumber, fractionalNumber, tooLargeNumber, unknownZone,     unknownSex,
+                           unknownYear,    unknownAgeGroup,  missingAgeGroup, missingPopulation, zoneWithoutPopulation};
+    return std::none_of(kinds.begin(), kinds.end(), [&](FaultKind kind) { return log.count(kind) > 0; });
+  }
 
   struct Dead {
     long number = 0;
@@ -65,7 +79,7 @@ class Reader {
     keys_.add((place * study_.ages.size() + *age) * study_.causes.codes.size() + *code, file_.line());
     if (!totals_.add(file_, group->year, *number)) return;
     study_.counts[group->year][group->zone].addDeaths(*code, group->sex, *age, *number);
-    Dead& dead = deadOf_[place];
+    Dead& dead = deadOf_[place * study_.ages.size() + *age];
     if (dead.number == 0) dead.line = file_.line();
     dead.number += *number;
   }
@@ -111,7 +125,7 @@ class Reader {
   }
 
   void checkPopulation() const {
-    if (study_.ages.empty() || causes_.empty()) return;
+    if (study_.ages.empty() || causes_.empty() || !isPopulationSound_) return;
     for (std::size_t y = 0; y < units_.years().size(); ++y) {
       for (std::size_t z = 0; z < units_.zones().size(); ++z) {
         for (const Sex ofSex : kBothSexes) checkPopulation({y, z, ofSex});
@@ -120,15 +134,24 @@ class Reader {
   }
 
   void checkPopulation(const CountedGroup& group) const {
-    const Dead& dead = deadOf_[placeOf(group)];
-    if (dead.number == 0) return;
     const SexChoice& choice = kSexChoices[1 + static_cast<std::size_t>(group.sex)];
-    if (total(study_.counts[group.year][group.zone].persons(choice)) > 0) return;
-    file_.faults().add(FaultKind::deathsWithoutPopulation, dead.line,
+    const ByAge persons = study_.counts[group.year][group.zone].persons(choice);
+    std::vector<std::string> ages;
+    std::size_t line = 0;
+    for (std::size_t age = 0; age < persons.size(); ++age) {
+      const Dead& dead = deadOf_[placeOf(group) * persons.size() + age];
+      if (dead.number == 0 || persons[age] > 0) continue;
+      ages.push_back(study_.ages[age].name);
+      line = line == 0 ? dead.line : std::min(line, dead.line);
+    }
+    if (ages.empty()) return;
+    const std::string ofAges = total(persons) > 0 ? " in the age groups " + asList(ages) : "";
+    file_.faults().add(FaultKind::deathsWithoutPopulation, line,
                        "the zone " + inQuotes(units_.zones()[group.zone].name) + " (" +
                            std::to_string(units_.years()[group.year]) + ", " + std::string(choice.name) +
-                           ") has deaths, but no person in population.csv",
-                       "correct whichever is wrong");
+                           ") has deaths" + ofAges + ", but no person" + (ofAges.empty() ? "" : " of that age") +
+                           " in population.csv",
+                       "correct whichever is wrong; where somebody died, at least one person lived");
   }
 
   const CountedUnits& units_;
@@ -138,7 +161,8 @@ class Reader {
   std::unordered_map<std::string, std::size_t> ages_;  // by their texts
   std::unordered_map<std::string, std::size_t> causes_;
   std::unordered_map<std::size_t, Possible> possible_;
-  std::vector<Dead> deadOf_;  // by year, zone, sex
+  bool isPopulationSound_;
+  std::vector<Dead> deadOf_;  // by year, zone, sex, age
   RowKeys keys_;
 };
 

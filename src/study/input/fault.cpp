@@ -1,17 +1,15 @@
 #include "study/input/fault.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace study {
 
 namespace {
 
-std::string textOf(const std::vector<Fault>& faults, std::size_t total) {
-  const std::size_t printed = std::min(faults.size(), InputFaults::kPrinted);
+std::string textOf(const std::vector<Fault>& printed, std::size_t total) {
   std::string text;
-  for (std::size_t i = 0; i < printed; ++i) text += (i > 0 ? "\n" : "") + faults[i].text();
-  if (total > printed) text += "\n... and " + std::to_string(total - printed) + " more";
+  for (const Fault& fault : printed) text += (text.empty() ? "" : "\n") + fault.text();
+  if (total > printed.size()) text += "\n... and " + std::to_string(total - printed.size()) + " more";
   return text;
 }
 
@@ -21,7 +19,7 @@ std::string Fault::text() const {
   return file + (line > 0 ? ":" + std::to_string(line) : "") + ": " + message + "; " + remedy;
 }
 
-InputFaults::InputFaults(std::vector<Fault> faults, std::size_t total)
-    : StudyError(textOf(faults, total)), faults_(std::move(faults)), total_(total) {}
+InputFaults::InputFaults(std::vector<Fault> faults, const std::vector<Fault>& printed, std::size_t total)
+    : StudyError(textOf(printed, total)), faults_(std::move(faults)), total_(total) {}
 
 }  // namespace study

@@ -20,13 +20,14 @@ struct Fault {
   bool operator==(const Fault&) const = default;
 };
 
-// The input cannot be made into a study. what() lists the first kPrinted faults, a line each, and tells how many more
-// there are.
+// The input cannot be made into a study. what() lists at most kPrinted faults, a line each, and tells how many more there
+// are.
 class InputFaults : public StudyError {
  public:
   static constexpr std::size_t kPrinted = 50;
 
-  InputFaults(std::vector<Fault> faults, std::size_t total);
+  // `printed` are those that what() lists.
+  InputFaults(std::vector<Fault> faults, const std::vector<Fault>& printed, std::size_t total);
 
   // Those that were kept, by file and line.
   [[nodiscard]] const std::vector<Fault>& faults() const { return faults_; }

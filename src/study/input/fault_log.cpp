@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
+#include <string_view>
 #include <utility>
 
 #include "text/utf8.h"
@@ -9,20 +11,54 @@
 namespace study {
 
 void FaultLog::add(FaultKind kind, Fault fault) {
-  if (!isFull(kind)) kept_.push_back(std::move(fault));
+  std::string key = std::to_string(static_cast<int>(kind)) + '\n' + fault.file + '\n' + fault.message;
+  if (const auto same = places_.find(key); same != places_.end()) {
+    ++kept_[same->second].rows;
+    return;
+  }
+  if (!isFull(kind)) {
+    places_.emplace(std::move(key), kept_.size());
+    kept_.push_back({std::move(fault), kind});
+  }
   ++counts_[static_cast<std::size_t>(kind)];
   ++total_;
 }
 
+// Which ones are printed.
+std::vector<bool> FaultLog::chosen() const {
+  std::vector<bool> chosen(kept_.size());
+  std::size_t left = std::min(kept_.size(), InputFaults::kPrinted);
+  for (std::size_t turn = 0; left > 0; ++turn) {
+    std::map<std::pair<FaultKind, std::string_view>, std::size_t> seen;
+    for (std::size_t i = 0; i < kept_.size() && left > 0; ++i) {
+      if (seen[{kept_[i].kind, kept_[i].fault.file}]++ != turn) continue;
+      chosen[i] = true;
+      --left;
+    }
+  }
+  return chosen;
+}
+
 void FaultLog::throwIfAny() const {
   if (isEmpty()) return;
-  std::map<std::string, std::size_t> fileOrder;
-  for (const Fault& fault : kept_) fileOrder.try_emplace(fault.file, fileOrder.size());
-  std::vector<Fault> sorted = kept_;
-  std::stable_sort(sorted.begin(), sorted.end(), [&](const Fault& a, const Fault& b) {
-    return std::pair(fileOrder.at(a.file), a.line) < std::pair(fileOrder.at(b.file), b.line);
-  });
-  throw InputFaults(std::move(sorted), total_);
+  std::map<std::string_view, std::size_t> fileOrder;
+  for (const Kept& kept : kept_) fileOrder.try_emplace(kept.fault.file, fileOrder.size());
+  std::vector<std::size_t> order(kept_.size());
+  std::iota(order.begin(), order.end(), 0U);
+  const auto place = [&](std::size_t i) { return std::pair(fileOrder.at(kept_[i].fault.file), kept_[i].fault.line); };
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return place(a) < place(b); });
+  const std::vector<bool> isPrinted = chosen();
+  std::vector<Fault> sorted;
+  std::vector<Fault> printed;
+  for (const std::size_t i : order) {
+    Fault fault = kept_[i].fault;
+    if (kept_[i].rows > 1 && fault.line > 0) {
+      fault.message += " (in " + std::to_string(kept_[i].rows) + " rows, of which this is the first)";
+    }
+    if (isPrinted[i]) printed.push_back(fault);
+    sorted.push_back(std::move(fault));
+  }
+  throw InputFaults(std::move(sorted), printed, total_);
 }
 
 std::string inQuotes(std::string_view text) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "study/input/fault.h"
@@ -18,6 +19,8 @@ enum class FaultKind {
   unknownColumn,
   doubleColumn,
   fieldCount,
+  wrongSeparator,
+  noRows,
   unclosedQuote,
   misplacedQuote,
   notANumber,
@@ -66,6 +69,8 @@ enum class FaultKind {
   noCoordinateSystem,
   notProjectable,
   noPolygon,
+  wrongPlace,
+  wrongArea,
   invalidPolygon,
   tooSmallZone,
   overlap,
@@ -76,8 +81,9 @@ enum class FaultKind {
   count
 };
 
-// Collects the faults of an input. Of each kind it keeps the first ones and counts the others, so that a broken file
-// of a million lines does not fill the memory.
+// Collects the faults of an input. One that is told of many rows in the same words, such as a name that is misspelt in
+// all of them, is one fault: its first row is named, and how many there are. Of each kind the first ones are kept and
+// the others counted, so that a broken file of a million lines does not fill the memory.
 class FaultLog {
  public:
   static constexpr std::size_t kKeptPerKind = InputFaults::kPrinted;
@@ -89,11 +95,20 @@ class FaultLog {
   // Whether another fault of the kind would only be counted, so that its words may be short.
   [[nodiscard]] bool isFull(FaultKind kind) const { return count(kind) >= kKeptPerKind; }
 
-  // Throws InputFaults where there are any: files in the order of their first fault, lines ascending.
+  // Throws InputFaults where there are any: files in the order of their first fault, lines ascending. Where there are
+  // more than are printed, all kinds have their turn, the first of each before the second of any.
   void throwIfAny() const;
 
  private:
-  std::vector<Fault> kept_;
+  struct Kept {
+    Fault fault;
+    FaultKind kind;
+    std::size_t rows = 1;
+  };
+  [[nodiscard]] std::vector<bool> chosen() const;
+
+  std::vector<Kept> kept_;
+  std::unordered_map<std::string, std::size_t> places_;  // of kept ones by kind, file and words
   std::array<std::size_t, static_cast<std::size_t>(FaultKind::count)> counts_{};
   std::size_t total_ = 0;
 };

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <functional>
 
 #include "study/input/testing_input.h"
@@ -88,6 +89,36 @@ TEST(InputFaults, Columns) {
        [](TestInput& input) { input.files["standard.csv"] = ""; },
        {"standard.csv:1: the column \"age_group\" is missing; add it, with its name in the first line",
         "standard.csv:1: the column \"weight\" is missing; add it, with its name in the first line"}},
+      {"tabs",
+       [](TestInput& input) {
+         std::string& deaths = input.files["deaths.csv"];
+         std::replace(deaths.begin(), deaths.end(), ',', '\t');
+       },
+       {"deaths.csv:1: the columns are separated by tabs; save the file with commas or semicolons between the fields"}},
+      {"rows of nothing",
+       [](TestInput& input) { input.files["deaths.csv"] += ",,,,,\n   \n \t,,\n"; }, {}},
+      {"a file in other case",
+       [](TestInput& input) {
+         input.files["Deaths.CSV"] = input.files["deaths.csv"];
+         input.files.erase("deaths.csv");
+       },
+       {}},
+      {"lines that end in CR",
+       [](TestInput& input) {
+         std::string& deaths = input.files["deaths.csv"];
+         std::replace(deaths.begin(), deaths.end(), '\n', '\r');
+         input.replace("deaths.csv", "mama,2", "\"mama\",\"2\rx\"");
+         input.replace("deaths.csv", "infarto,7", "infarto,x");
+       },
+       {"deaths.csv:3: the count \"2?x\" is no number; write it in digits",
+        "deaths.csv:7: the count \"x\" is no number; write it in digits"}},
+      {"letters of another encoding below lines that end in CR",
+       [](TestInput& input) {
+         std::string& deaths = input.files["deaths.csv"];
+         std::replace(deaths.begin(), deaths.end(), '\n', '\r');
+         input.replace("deaths.csv", "Ñora", "\xD1ora");
+       },
+       {"deaths.csv:4: the text is not UTF-8; save the file with the encoding UTF-8"}},
       {"too many fields",
        replacing("deaths.csv", "prostata,3", "prostata,3,0"),
        {"deaths.csv:2: the row has 7 fields, but the first line has 6 fields; give every column one field; put fields "
@@ -209,8 +240,8 @@ TEST(InputFaults, Counts) {
        {"deaths.csv:7: the row gives the same as line 2; remove one of the two"}},
       {"a row of persons twice",
        [](TestInput& input) { input.files["population.csv"] += "1999,Nava,Hombres,0,1000\n1999,Nava,Hombres,0,9\n"; },
-       {"population.csv:98: the row gives the same as line 2; remove one of the two",
-        "population.csv:99: the row gives the same as line 2; remove one of the two"}},
+       {"population.csv:98: the row gives the same as line 2 (in 2 rows, of which this is the first); remove one of the "
+        "two"}},
       {"a death that cannot be",
        replacing("deaths.csv", "Hombres,65+,prostata", "Mujeres,65+,prostata"),
        {"deaths.csv:2: Mujeres cannot die of \"prostata\", which \"Tumor maligno de la próstata\" sums in causes.csv; "
@@ -225,8 +256,17 @@ TEST(InputFaults, Counts) {
          }
        },
        {"deaths.csv:3: the zone \"Nava\" (1999, Mujeres) has deaths, but no person in population.csv; correct "
-        "whichever "
-        "is wrong"}},
+        "whichever is wrong; where somebody died, at least one person lived"}},
+      {"deaths in an age group where nobody lives",
+       [](TestInput& input) {
+         input.replace("population.csv", "1999,Nava,Hombres,65+,1300", "1999,Nava,Hombres,65+,0");
+         input.files["deaths.csv"] += "1999,Nava,Hombres,65+,colon,2\n";
+       },
+       {"deaths.csv:2: the zone \"Nava\" (1999, Hombres) has deaths in the age groups \"65 y más\", but no person of "
+        "that age in population.csv; correct whichever is wrong; where somebody died, at least one person lived"}},
+      {"no deaths at all",
+       [](TestInput& input) { input.files["deaths.csv"] = "year,zone,sex,age_group,cause,count\n"; },
+       {"deaths.csv:1: the file has no row below its first line; give the deaths"}},
       {"missing age group",
        [](TestInput& input) {
          input.removeLine("population.csv", 5);
@@ -292,7 +332,9 @@ TEST(InputFaults, AgeGroups) {
 
 TEST(InputFaults, AreCountedBeyondThoseKept) {
   TestInput input;
-  for (int i = 0; i < 1000; ++i) input.files["deaths.csv"] += "1999,Nadie,Hombres,65+,colon,1\n";
+  for (int i = 0; i < 1000; ++i) {
+    input.files["deaths.csv"] += "1999,Nadie " + std::to_string(i) + ",Hombres,65+,colon,1\n";
+  }
   input.replace("deaths.csv", "prostata,3", "prostata,-3");
   try {
     (void)input.read();
@@ -304,6 +346,36 @@ TEST(InputFaults, AreCountedBeyondThoseKept) {
     const std::string text = faults.what();
     EXPECT_TRUE(text.starts_with("deaths.csv:2: the count \"-3\" is negative; give 0 or more\ndeaths.csv:7: "));
     EXPECT_TRUE(text.ends_with("\n... and 951 more"));
+  }
+}
+
+// A name that is wrong in many rows is one fault.
+TEST(InputFaults, AreToldOnceForAllRowsOfOneWrongValue) {
+  TestInput input;
+  for (int i = 0; i < 75; ++i) input.files["deaths.csv"] += "1999,Nadie,Hombres,65+,colon,1\n";
+  input.files["deaths.csv"] += "1999,Otro,Hombres,65+,colon,1\n";
+  EXPECT_EQ(input.faults(),
+            (Texts{"deaths.csv:7: the zone \"Nadie\" is not in zones.geojson (in 75 rows, of which this is the first); "
+                   "correct it, or add the zone to zones.geojson",
+                   "deaths.csv:82: the zone \"Otro\" is not in zones.geojson; correct it, or add the zone to "
+                   "zones.geojson"}));
+}
+
+// However many there are of one kind, those of another kind and file are among what is printed.
+TEST(InputFaults, ArePrintedOfAllKinds) {
+  TestInput input;
+  for (int i = 0; i < 300; ++i) {
+    input.files["population.csv"] += "1999,Nadie " + std::to_string(i) + ",Hombres,0,1\n";
+  }
+  input.replace("deaths.csv", "prostata,3", "prostata,-3");
+  try {
+    (void)input.read();
+    FAIL();
+  } catch (const InputFaults& faults) {
+    const std::string text = faults.what();
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 50) << "fifty faults and how many more";
+    EXPECT_NE(text.find("deaths.csv:2: the count \"-3\" is negative"), std::string::npos) << text;
+    EXPECT_TRUE(text.ends_with("\n... and 251 more")) << text;
   }
 }
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "study/input/csv_records.h"
 #include "text/file_text.h"
+#include "text/utf8.h"
 
 namespace study {
 
@@ -24,6 +26,8 @@ constexpr std::array<Lead, 8> kLeads{{{0xC2, 0xDF, 2, 0x80, 0xBF},
                                       {0xF0, 0xF0, 4, 0x90, 0xBF},
                                       {0xF1, 0xF3, 4, 0x80, 0xBF},
                                       {0xF4, 0xF4, 4, 0x80, 0x8F}}};
+
+constexpr std::string_view kFirmBlank = "\u00A0";
 
 bool isBetween(char byte, unsigned char first, unsigned char last) {
   return static_cast<unsigned char>(byte) >= first && static_cast<unsigned char>(byte) <= last;
@@ -57,8 +61,23 @@ std::optional<std::size_t> firstMalformed(std::string_view bytes) {
   return std::nullopt;
 }
 
+namespace {
+
+// The file of that name, or else of the name in other case.
+std::filesystem::path pathOf(const std::filesystem::path& folder, const std::string& name) {
+  std::filesystem::path path = folder / text::toPath(name);
+  std::error_code error;
+  if (std::filesystem::exists(path, error)) return path;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    if (text::equalsIgnoringCase(text::fromPath(entry.path().filename()), name)) return entry.path();
+  }
+  return path;
+}
+
+}  // namespace
+
 std::optional<std::string> readText(const std::filesystem::path& folder, const FileFaults& faults) {
-  const std::filesystem::path path = folder / text::toPath(faults.file());
+  const std::filesystem::path path = pathOf(folder, faults.file());
   std::error_code error;
   if (!std::filesystem::exists(path, error)) {
     faults.add(FaultKind::missingFile, 0, "the file is missing", "add it to the input folder");
@@ -71,18 +90,27 @@ std::optional<std::string> readText(const std::filesystem::path& folder, const F
   }
   if (text->starts_with("\xEF\xBB\xBF")) text->erase(0, 3);
   if (const auto malformed = firstMalformed(*text)) {
-    const auto end = text->begin() + static_cast<std::ptrdiff_t>(*malformed);
-    faults.add(FaultKind::notUtf8, static_cast<std::size_t>(std::count(text->begin(), end, '\n')) + 1,
+    faults.add(FaultKind::notUtf8, lineEnds(std::string_view(*text).substr(0, *malformed)) + 1,
                "the text is not UTF-8", "save the file with the encoding UTF-8");
     return std::nullopt;
   }
   return text;
 }
 
+std::size_t blankAtStart(std::string_view text) {
+  if (text.starts_with(' ') || text.starts_with('\t')) return 1;
+  return text.starts_with(kFirmBlank) ? kFirmBlank.size() : 0;
+}
+
+std::size_t blankAtEnd(std::string_view text) {
+  if (text.ends_with(' ') || text.ends_with('\t')) return 1;
+  return text.ends_with(kFirmBlank) ? kFirmBlank.size() : 0;
+}
+
 std::string_view trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+  while (const std::size_t blank = blankAtStart(text)) text.remove_prefix(blank);
+  while (const std::size_t blank = blankAtEnd(text)) text.remove_suffix(blank);
+  return text;
 }
 
 }  // namespace study

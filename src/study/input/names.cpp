@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "study/input/input_text.h"
+#include "study/model/windows1252.h"
 #include "text/utf8.h"
 
 namespace study {
 
 namespace {
-
-// What windows-1252 has in the bytes from 0x80 to 0x9F; its other characters are those of Latin-1.
-constexpr std::u32string_view kBeyondLatin1 = U"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ";
 
 constexpr std::string_view kNoFileName = "\\/:*?<>|";
 
@@ -21,8 +20,15 @@ constexpr std::array<std::string_view, 22> kDevices{"con",  "prn",  "aux",  "nul
 
 bool isControl(char32_t c) { return c < 0x20 || c == 0x7F; }
 
-bool isOfWindows1252(char32_t c) {
-  return c < 0x80 || (c >= 0xA0 && c <= 0xFF) || kBeyondLatin1.find(c) != std::u32string_view::npos;
+// Tells the first character that windows-1252 lacks.
+void checkLetters(const FileFaults& faults, std::size_t line, const std::string& subject,
+                  const std::u32string& characters, const std::string& whose, FaultKind kind) {
+  const auto strange = std::find_if_not(characters.begin(), characters.end(), isOfWindows1252);
+  if (strange == characters.end()) return;
+  faults.add(kind, line,
+             subject + " holds " + inQuotes(text::encode(std::u32string(1, *strange))) + ", which " + whose +
+                 "' character set windows-1252 does not have",
+             "write it with letters of western Europe");
 }
 
 bool isDevice(std::string_view name) {
@@ -34,9 +40,14 @@ bool isDevice(std::string_view name) {
 
 std::string folded(std::string_view name) { return text::lower(text::compose(name)); }
 
-bool isWindows1252(std::string_view utf8) {
-  const std::u32string characters = text::decode(utf8);
-  return std::all_of(characters.begin(), characters.end(), isOfWindows1252);
+void checkProse(const FileFaults& faults, std::size_t line, std::string_view what, std::string_view text) {
+  const std::string subject = std::string(what) + " " + inQuotes(text);
+  const std::u32string characters = text::decode(text);
+  const auto isBad = [](char32_t c) { return isControl(c) && c != '\n' && c != '\t'; };
+  if (std::any_of(characters.begin(), characters.end(), isBad)) {
+    faults.add(FaultKind::badText, line, subject + " holds a control character", "leave it out");
+  }
+  checkLetters(faults, line, subject, characters, "the documents", FaultKind::badText);
 }
 
 void checkText(const FileFaults& faults, std::size_t line, std::string_view what, std::string_view text,
@@ -50,14 +61,7 @@ void checkText(const FileFaults& faults, std::size_t line, std::string_view what
   if (std::any_of(characters.begin(), characters.end(), isControl)) {
     faults.add(kind, line, subject + " holds a line end, a tab or another control character", "leave it out");
   }
-  for (const char32_t c : characters) {
-    if (isOfWindows1252(c)) continue;
-    faults.add(kind, line,
-               subject + " holds " + inQuotes(text::encode(std::u32string(1, c))) +
-                   ", which the tables' character set windows-1252 does not have",
-               "write it with letters of western Europe");
-    break;
-  }
+  checkLetters(faults, line, subject, characters, "the tables", kind);
   if (characters.size() > longest) {
     faults.add(kind, line,
                subject + " has " + std::to_string(characters.size()) + " characters; there is room for " +
@@ -74,7 +78,7 @@ void checkName(const FileFaults& faults, std::string_view what, std::string_view
                subject + " holds " + inQuotes(name.substr(at, 1)) + ", which no file name may hold",
                "write another sign");
   }
-  if (name.starts_with(' ') || name.ends_with(' ') || name.ends_with('.')) {
+  if (blankAtStart(name) > 0 || blankAtEnd(name) > 0 || name.ends_with('.')) {
     faults.add(FaultKind::badName, 0, subject + " begins or ends in a blank, or ends in a dot",
                "leave out what is there too much");
   }

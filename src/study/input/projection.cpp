@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
 namespace study {
 
@@ -47,7 +48,7 @@ bool Projection::project(OGRGeometry& geometry) const {
   return std::isfinite(box.MinX) && std::isfinite(box.MaxX) && std::isfinite(box.MinY) && std::isfinite(box.MaxY);
 }
 
-std::optional<int> utmZoneOf(const OGRSpatialReference& system, Point p) {
+std::optional<Point> degreesOf(const OGRSpatialReference& system, Point p) {
   const OGRSpatialReference source = eastFirst(system);
   const OGRSpatialReference target = wgs84();
   const std::unique_ptr<OGRCoordinateTransformation, void (*)(OGRCoordinateTransformation*)> transformation(
@@ -56,8 +57,53 @@ std::optional<int> utmZoneOf(const OGRSpatialReference& system, Point p) {
       !std::isfinite(p.y)) {
     return std::nullopt;
   }
-  const int zone = std::clamp(static_cast<int>(std::floor((p.x + 180) / 6)) + 1, 1, 60);
-  return p.y < 0 ? -zone : zone;
+  return p;
+}
+
+int utmZoneOf(Point degrees) {
+  const int zone = std::clamp(static_cast<int>(std::floor((degrees.x + 180) / 6)) + 1, 1, 60);
+  return degrees.y < 0 ? -zone : zone;
+}
+
+double degreesFromMeridian(Point degrees, int utmZone) {
+  const double meridian = std::abs(utmZone) * 6 - 183;
+  return std::fabs(std::remainder(degrees.x - meridian, 360.0));
+}
+
+namespace {
+
+struct AreaOfUse {
+  double west = -180;
+  double south = -90;
+  double east = 180;
+  double north = 90;
+};
+
+// Files name a system, but do not repeat where it is used.
+std::optional<AreaOfUse> areaOfUse(const OGRSpatialReference& system) {
+  AreaOfUse area;
+  const auto isKnown = [&](const OGRSpatialReference& known) {
+    return known.GetAreaOfUse(&area.west, &area.south, &area.east, &area.north, nullptr) && area.west >= -180 &&
+           area.west <= area.east;
+  };
+  if (isKnown(system)) return area;
+  const char* authority = system.GetAuthorityName(nullptr);
+  const char* code = system.GetAuthorityCode(nullptr);
+  if (authority == nullptr || code == nullptr) return std::nullopt;
+  OGRSpatialReference named;
+  if (named.SetFromUserInput((std::string(authority) + ":" + code).c_str()) != OGRERR_NONE) return std::nullopt;
+  return isKnown(named) ? std::optional(area) : std::nullopt;
+}
+
+}  // namespace
+
+bool isInUse(const OGRSpatialReference& system, Point degrees) {
+  constexpr double kNearby = 6;  // degrees
+  const int zone = system.GetUTMZone();
+  if (zone != 0 && degreesFromMeridian(degrees, zone) > 3 + kNearby) return false;
+  const std::optional<AreaOfUse> area = areaOfUse(system);
+  return !area || (degrees.x >= area->west - kNearby && degrees.x <= area->east + kNearby &&
+                   degrees.y >= area->south - kNearby && degrees.y <= area->north + kNearby);
 }
 
 }  // namespace study

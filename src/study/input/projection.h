@@ -30,7 +30,18 @@ class Projection {
   std::unique_ptr<OGRCoordinateTransformation, Destroyer> transformation_;
 };
 
-// The UTM zone of a point given in a map's coordinate system; none: the point cannot be transformed.
-[[nodiscard]] std::optional<int> utmZoneOf(const OGRSpatialReference& system, Point p);
+// A point given in a map's coordinate system, in degrees of longitude and latitude on WGS 84; none: it cannot be
+// transformed.
+[[nodiscard]] std::optional<Point> degreesOf(const OGRSpatialReference& system, Point p);
+
+// The UTM zone of a place in degrees.
+[[nodiscard]] int utmZoneOf(Point degrees);
+
+// How many degrees of longitude a place lies from the meridian of a UTM zone, 0 to 180.
+[[nodiscard]] double degreesFromMeridian(Point degrees, int utmZone);
+
+// Whether a map's coordinate system is used where the place lies, or nearby. A system that does not tell where it is
+// used may be used anywhere.
+[[nodiscard]] bool isInUse(const OGRSpatialReference& system, Point degrees);
 
 }  // namespace study

@@ -1,6 +1,8 @@
 #include "study/input/read_input.h"
 
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <utility>
 
 #include "study/geometry/division.h"
@@ -14,6 +16,7 @@
 #include "study/input/standard_file.h"
 #include "study/input/zone_order.h"
 #include "study/input/zones_file.h"
+#include "study/model/ground_area.h"
 #include "text/file_text.h"
 
 namespace study {
@@ -21,6 +24,15 @@ namespace study {
 namespace {
 
 std::string rounded(double number) { return std::to_string(std::lround(number)); }
+
+// " around 40.05 N 3.15 W", so that a map in the wrong place is noticed.
+std::string around(const std::optional<Point>& degrees) {
+  if (!degrees) return {};
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), " around %.2f %c %.2f %c", std::fabs(degrees->y), degrees->y < 0 ? 'S' : 'N',
+                std::fabs(degrees->x), degrees->x < 0 ? 'W' : 'E');
+  return text.data();
+}
 
 class Reader {
  public:
@@ -38,12 +50,13 @@ class Reader {
     tell("Reading the zones");
     ZonesFile file = readZones(folder_, settings.utmZone, log_);
     const std::string zonesFile = file.name;
+    const std::string where = around(file.middle);
     study_.utmZone = file.utmZone;
     OrderedZones ordered = orderZones(std::move(file), log_);
     study_.provinces = std::move(ordered.provinces);
     study_.zones = std::move(ordered.zones);
 
-    tell("Joining " + std::to_string(study_.zones.size()) + " zones to provinces");
+    tell("Joining " + std::to_string(study_.zones.size()) + " zones" + where + " to provinces");
     joinZones(ordered.polygons, zonesFile);
 
     const CountedUnits units(study_.years, study_.zones, zonesFile);
@@ -82,9 +95,25 @@ class Reader {
                  "the zone " + inQuotes(study_.zones[i].name) + " is no more than a sliver in its neighbours",
                  "draw its outline and theirs again");
     }
+    checkAreas(division, faults);
     study_.zoneAreas = std::move(division.zones);
     study_.provinceAreas = std::move(division.provinces);
     study_.regionArea = std::move(division.region);
+  }
+
+  // No zone is as small as a house, no region as large as a continent: then the coordinates are no metres of the system
+  // that the file names.
+  void checkAreas(const Division& division, const FileFaults& faults) const {
+    constexpr double kLeast = 1e4;
+    constexpr double kMost = 1e13;
+    if (log_.count(FaultKind::noPolygon) + log_.count(FaultKind::notProjectable) > 0 || division.region.empty()) return;
+    const double region = groundSquareMetres(division.region, study_.utmZone);
+    if (region >= kLeast && region <= kMost) return;
+    std::array<char, 32> squareKilometres{};
+    std::snprintf(squareKilometres.data(), squareKilometres.size(), "%.3g", region / 1e6);
+    faults.add(FaultKind::wrongArea, 0,
+               "the zones cover " + std::string(squareKilometres.data()) + " square kilometres together",
+               "check that the file has the coordinate system in which the zones were drawn");
   }
 
   void addOverlap(const Overlap& overlap, const FileFaults& faults) const {
@@ -107,8 +136,9 @@ class Reader {
 Study readInput(const std::filesystem::path& folder, const Progress& progress) {
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) {
-    throw InputFaults({{text::fromPath(folder), 0, "there is no such folder", "give the folder that holds study.toml"}},
-                      1);
+    const std::vector<Fault> fault{
+        {text::fromPath(folder), 0, "there is no such folder", "give the folder that holds study.toml"}};
+    throw InputFaults(fault, fault, 1);
   }
   return Reader(folder, progress).read();
 }

@@ -82,7 +82,10 @@ class Reader {
     for (const Document& document : kDocuments) {
       if (document.section != setting.section || (setting.key != "title" && setting.key != "text")) continue;
       DocumentText& target = settings_.texts.*document.text;
-      if (const std::string* value = text(setting)) (setting.key == "title" ? target.title : target.text) = *value;
+      if (const std::string* value = text(setting)) {
+        checkProse(faults_, setting.line, "the setting " + inQuotes(setting.name()) + ":", *value);
+        (setting.key == "title" ? target.title : target.text) = *value;
+      }
       return true;
     }
     return false;
@@ -92,8 +95,13 @@ class Reader {
   const Value* valueOf(const Setting& setting, const char* expected, const char* example) const {
     const Value* value = std::get_if<Value>(&setting.value);
     if (value == nullptr) {
-      add(FaultKind::settingType, setting, "does not have " + std::string(expected) + " for its value",
-          "write it as " + setting.key + " = " + example);
+      const auto* other = std::get_if<OtherValue>(&setting.value);
+      if (other != nullptr && other->text.starts_with('\'')) {
+        add(FaultKind::settingType, setting, "has its value in single quotes", "write it in double quotes");
+      } else {
+        add(FaultKind::settingType, setting, "does not have " + std::string(expected) + " for its value",
+            "write it as " + setting.key + " = " + example);
+      }
     }
     return value;
   }

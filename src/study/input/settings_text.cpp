@@ -120,10 +120,22 @@ class Parser {
     if (isAt("\"\"\"")) return readLongText();
     if (here() == '"') return readText();
     if (here() == '[') return readList();
+    if (here() == '\'') return readSingleQuoted();
     const std::string_view word = readWord();
     if (word.empty()) throw SyntaxFault{"the setting has no value", "write one after the ="};
     if (const std::optional<long> number = wholeNumber(word)) return *number;
     return OtherValue{std::string(word)};
+  }
+
+  // Not of the subset that is read; taken as a whole to be told of.
+  OtherValue readSingleQuoted() {
+    const std::size_t start = at_;
+    const std::size_t close = text_.find_first_of("'\n", at_ + 1);
+    if (close == std::string_view::npos || text_[close] == '\n') {
+      throw SyntaxFault{"the value begins with a single quote", "write texts in double quotes"};
+    }
+    at_ = close + 1;
+    return {std::string(text_.substr(start, at_ - start))};
   }
 
   // Up to a blank, a comment or the end of a list's item.

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdlib>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -143,21 +145,61 @@ class Reader {
                   "save it with one; a shapefile needs its .prj file");
       return false;
     }
-    const std::optional<int> zone = utmZone_ ? utmZone_ : utmZoneOf(*system, middle());
-    if (zone) projection_ = std::make_unique<Projection>(*system, *zone);
+    const OGREnvelope box = extentOfLayer();
+    const Point middle{(box.MinX + box.MaxX) / 2, (box.MinY + box.MaxY) / 2};
+    if (system->IsProjected() && isOfDegrees(box)) {
+      faults_.add(FaultKind::wrongPlace, 0,
+                  std::string("its coordinates are degrees, though it says that they are metres of ") +
+                      inQuotes(system->GetName()),
+                  "give the file the coordinate system of its coordinates");
+      return false;
+    }
+    const std::optional<Point> degrees = degreesOf(*system, middle);
+    if (degrees && !isNearby(*system, *degrees)) return false;
+    zones.middle = degrees;
+    if (degrees) {
+      zones.utmZone = utmZone_.value_or(utmZoneOf(*degrees));
+      projection_ = std::make_unique<Projection>(*system, zones.utmZone);
+    }
     if (!projection_ || !projection_->exists()) {
       faults_.add(FaultKind::notProjectable, 0, "its coordinates cannot be transformed to UTM",
                   "check that the file has the coordinate system in which the zones were drawn");
       return false;
     }
-    zones.utmZone = *zone;
     return true;
   }
 
-  Point middle() const {
+  // Nothing where no zone has a polygon.
+  OGREnvelope extentOfLayer() const {
     OGREnvelope box;
-    if (layer_->GetExtent(&box, TRUE) != OGRERR_NONE) return {};  // no zone has a polygon
-    return {(box.MinX + box.MaxX) / 2, (box.MinY + box.MaxY) / 2};
+    if (layer_->GetExtent(&box, TRUE) == OGRERR_NONE) return box;
+    box.MinX = box.MaxX = box.MinY = box.MaxY = 0;
+    return box;
+  }
+
+  static bool isOfDegrees(const OGREnvelope& box) {
+    return box.MaxX > box.MinX && box.MinX >= -360 && box.MaxX <= 360 && box.MinY >= -90 && box.MaxY <= 90;
+  }
+
+  // Whether the map lies where its system and the UTM zone are used: elsewhere areas and lengths are wrong.
+  bool isNearby(const OGRSpatialReference& system, Point degrees) const {
+    constexpr double kFarthest = 9;  // degrees from the zone's meridian
+    const auto written = [](double number) { return std::to_string(std::lround(number)); };
+    const std::string place = "the middle of the zones lies " + written(std::fabs(degrees.y)) + " degrees " +
+                              (degrees.y < 0 ? "south" : "north") + " and " + written(std::fabs(degrees.x)) +
+                              " degrees " + (degrees.x < 0 ? "west" : "east") + ", ";
+    if (std::fabs(degrees.y) > 90) return true;  // of no place on earth: the zone that is there is told of by its name
+    if (!isInUse(system, degrees)) {
+      faults_.add(FaultKind::wrongPlace, 0,
+                  place + "where its coordinate system " + inQuotes(system.GetName()) + " is not used",
+                  "give the file the coordinate system of its coordinates, and let eastings or longitudes come first");
+      return false;
+    }
+    if (!utmZone_ || degreesFromMeridian(degrees, *utmZone_) <= kFarthest) return true;
+    faults_.add(FaultKind::wrongPlace, 0,
+                place + "too far from UTM zone " + std::to_string(std::abs(*utmZone_)) + ", which the settings name",
+                "correct \"utm_zone\" in study.toml, or leave it out; let eastings or longitudes come first in the map");
+    return false;
   }
 
   // An attribute as text; none, with a fault, where it is empty or no UTF-8.
@@ -235,9 +277,9 @@ ZonesFile readZones(const std::filesystem::path& folder, std::optional<int> utmZ
   if (names.empty()) {
     log.add(FaultKind::missingFile,
             {"zones", 0, "the file of the zones is missing", "add one of " + std::string(kNames)});
-    return {"zones", {}, 0};
+    return {"zones", {}, 0, {}};
   }
-  ZonesFile zones{names.front(), {}, 0};
+  ZonesFile zones{names.front(), {}, 0, {}};
   const FileFaults faults(log, zones.name);
   if (names.size() > 1) {
     faults.add(FaultKind::severalZonesFiles, 0, "there are several files of zones: " + asList(names), "keep one");

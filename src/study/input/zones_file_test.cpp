@@ -3,7 +3,6 @@
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
 
-#include "study/input/names.h"
 #include "study/input/testing_input.h"
 
 namespace study {
@@ -80,6 +79,10 @@ TEST(ZonesFile, FaultsOfNamesAreTold) {
        nava,
        zoneText("Nava ", "Ribera"),
        {file + "the zone \"Nava \" begins or ends in a blank, or ends in a dot; leave out what is there too much"}},
+      {"firm blank at the end",
+       nava,
+       zoneText("Nava\u00A0", "Ribera"),
+       {file + "the zone \"Nava\u00A0\" begins or ends in a blank, or ends in a dot; leave out what is there too much"}},
       {"device",
        nava,
        zoneText("Nava", "Con"),
@@ -216,6 +219,58 @@ TEST(ZonesFile, FaultsOfLayersAreTold) {
                   ".prj file"});
 }
 
+void setSystem(TestInput& input, const std::string& system) {
+  input.replace("zones.geojson", "\"FeatureCollection\", ",
+                R"("FeatureCollection", "crs": {"type": "name", "properties": {"name": "urn:ogc:def:crs:)" + system +
+                    "\"}}, ");
+}
+
+TEST(ZonesFile, MapsInTheWrongPlaceAreTold) {
+  using Texts = std::vector<std::string>;
+  TestInput far;
+  far.replace("study.toml", "utm_zone = 30", "utm_zone = 10");
+  EXPECT_EQ(zoneFaults(far),
+            Texts{"zones.geojson: the middle of the zones lies 40 degrees north and 3 degrees west, too far from UTM "
+                  "zone 10, which the settings name; correct \"utm_zone\" in study.toml, or leave it out; let eastings "
+                  "or longitudes come first in the map"});
+  TestInput degrees;
+  setSystem(degrees, "EPSG::25830");
+  EXPECT_EQ(zoneFaults(degrees),
+            Texts{"zones.geojson: its coordinates are degrees, though it says that they are metres of \"ETRS89 / UTM "
+                  "zone 30N\"; give the file the coordinate system of its coordinates"});
+
+  // Latitudes first: far from zone 30, and outside the area of the European system.
+  TestInput swapped;
+  for (const double west : {-3.3, -3.2, -3.1}) {
+    for (const double south : {40.0, 40.05}) {
+      swapped.replace("zones.geojson", boxText(west, south, west + 0.1, south + 0.05),
+                      boxText(south, west, south + 0.05, west + 0.1));
+    }
+  }
+  EXPECT_EQ(zoneFaults(swapped).size(), 1U) << "far from UTM zone 30";
+  swapped.replace("study.toml", "utm_zone = 30\n", "");
+  setSystem(swapped, "EPSG::4258");
+  ASSERT_EQ(zoneFaults(swapped).size(), 1U);
+  EXPECT_NE(zoneFaults(swapped)[0].find("where its coordinate system \"ETRS89\" is not used"), std::string::npos)
+      << zoneFaults(swapped)[0];
+}
+
+TEST(ZonesFile, MapsOfImpossibleSizeAreTold) {
+  TestInput input;
+  for (std::size_t i = 0; i < kTestZones.size(); ++i) {
+    const double west = -3.3 + 0.1 * static_cast<double>(i / 2);
+    const double south = 40 + 0.05 * static_cast<double>(i % 2);
+    const auto small = [](double from, double number) { return from + (number - from) / 400; };
+    input.replace("zones.geojson", boxText(west, south, west + 0.1, south + 0.05),
+                  boxText(small(-3.3, west), small(40, south), small(-3.3, west + 0.1), small(40, south + 0.05)));
+  }
+  const std::vector<std::string> faults = zoneFaults(input);
+  ASSERT_EQ(faults.size(), 1U);
+  EXPECT_EQ(faults[0],
+            "zones.geojson: the zones cover 0.00178 square kilometres together; check that the file has the coordinate "
+            "system in which the zones were drawn");
+}
+
 TEST(ZonesFile, CrossedOutlinesAreMended) {
   TestInput input;
   input.replace("zones.geojson", boxText(-3.3, 40, -3.2, 40.05),
@@ -234,13 +289,6 @@ TEST(ZonesFile, SeveralPiecesAndHolesAreKept) {
   ASSERT_EQ(study.zones[2].name, "Nava");
   ASSERT_EQ(study.zoneAreas[2].size(), 3U);
   EXPECT_EQ(study.regionArea.size(), 3U);
-}
-
-TEST(Names, AreOfWindows1252) {
-  EXPECT_TRUE(isWindows1252("Año, ÿ, € y – “Œuvre” Ÿ"));
-  EXPECT_FALSE(isWindows1252("Č"));
-  EXPECT_FALSE(isWindows1252("\xC2\x80"));
-  EXPECT_FALSE(isWindows1252("日"));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "study/methods/hidden_deaths.h"
 #include "study/methods/rates.h"
 #include "study/model/indicators.h"
 
@@ -121,16 +122,32 @@ class FigureBook::Writer {
   Writer(const Study& study, const std::vector<Definition>& definitions, const std::vector<FigureLine>& lines)
       : study_(study), definitions_(definitions), lines_(lines) {}
 
-  // The region, the provinces, the zones.
-  [[nodiscard]] std::vector<Page> pagesOf(const std::vector<Counts>& zones) const {
+  // Of a year: the region, the provinces, the zones.
+  [[nodiscard]] std::vector<Page> pagesOf(std::size_t year) const {
+    const HiddenDeaths hidden(study_, year);
+    const std::vector<Counts> units = countsOfUnits(study_, study_.counts[year]);
     std::vector<Page> pages;
-    for (const Counts& counts : countsOfUnits(study_, zones)) pages.push_back(pageOf(counts));
-    for (const Counts& counts : zones) pages.push_back(pageOf(counts));
+    for (std::size_t i = 0; i < units.size(); ++i) {
+      pages.push_back(pageOf(units[i], hidden, i == 0 ? Unit{} : Unit{UnitKind::province, i - 1}));
+    }
+    for (const Unit zone : study_.units(UnitKind::zone)) {
+      pages.push_back(pageOf(study_.counts[year][zone.index], hidden, zone));
+    }
     return pages;
   }
 
  private:
-  [[nodiscard]] Page pageOf(const Counts& counts) const {
+  // Which deaths a figure rests on, as HiddenDeaths numbers causes; the population rests on none.
+  [[nodiscard]] bool isHidden(const Definition& definition, const HiddenDeaths& hidden, Unit unit) const {
+    if (definition.measure == Measure::population) return false;
+    const std::size_t cause =
+        definition.cause == nullptr
+            ? HiddenDeaths::kAllCauses
+            : HiddenDeaths::causeNumber(static_cast<std::size_t>(definition.cause - study_.causes.published.data()));
+    return hidden.areHidden(unit, *definition.sex, cause);
+  }
+
+  [[nodiscard]] Page pageOf(const Counts& counts, const HiddenDeaths& hidden, Unit unit) const {
     Page page;
     page.figures.reserve(lines_.size());
     std::optional<SexFigures> figures;
@@ -141,7 +158,7 @@ class FigureBook::Writer {
       }
       const Amount amount = figures->amount(definition);
       if (!amount.value) continue;
-      if (study::isSuppressed(amount.deaths, study_.suppressBelow)) {
+      if (isHidden(definition, hidden, unit)) {
         page.suppressed.push_back(&lines_[i]);
       } else {
         page.figures.push_back({&lines_[i], *amount.value, amount.deaths});
@@ -159,7 +176,7 @@ FigureBook::FigureBook(const Study& study) : provinces_(study.provinces.size()) 
   const std::vector<Definition> definitions = definitionsOf(study.causes);
   for (const Definition& definition : definitions) lines_.push_back(lineOf(definition));
   const Writer writer(study, definitions, lines_);
-  for (const std::vector<Counts>& zones : study.counts) pages_.push_back(writer.pagesOf(zones));
+  for (std::size_t year = 0; year < study.counts.size(); ++year) pages_.push_back(writer.pagesOf(year));
 }
 
 const FigureBook::Page& FigureBook::page(std::size_t year, Unit unit) const {

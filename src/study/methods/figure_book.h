@@ -9,16 +9,12 @@
 
 namespace study {
 
-// Whether a number of deaths may not be published: fewer than `below`, but not none. Whatever is computed from them is
-// not published either. A setting of 0 publishes all.
-[[nodiscard]] constexpr bool isSuppressed(long deaths, int below) { return deaths > 0 && deaths < below; }
-
 // All figures that the study publishes of its units, computed once and shared by whoever writes them.
 //
 // Figures of a unit in a year stand by sex (Ambos sexos, Hombres, Mujeres), then by type (the broad groups, the general
 // indicators, the reduced list), then in the order of the lists. Figures of both sexes, of provinces and of the region
 // are computed from summed persons and deaths, never from other figures. A sex without persons has no rates; a cause
-// that a sex does not have has no figure; a suppressed figure is left out.
+// that a sex does not have has no figure; a figure that may not be published (see HiddenDeaths) is left out.
 class FigureBook {
  public:
   explicit FigureBook(const Study& study);

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "study/methods/hidden_cells.h"
 #include "study/methods/rates.h"
 #include "study/model/indicators.h"
 
@@ -189,8 +190,10 @@ TEST(FigureBook, LeavesOutWhatMayNotBePublished) {
                         {kFirstZone, "Hombres", std::string(kCrudeRateIndicator), true},
                         {kFirstZone, "Hombres", std::string(kPopulationIndicator), false},
                         {kFirstZone, "Hombres", ofCause("Todo lo demás"), false},  // none died
-                        {kFirstZone, "Ambos sexos", ofCause("Tumores"), false},    // five
-                        {kFirstProvince, "Hombres", ofCause("Tumores"), false},    // five
+                        // Five: alone beside the other zone's one, and beside the women's one.
+                        {kFirstZone, "Ambos sexos", ofCause("Tumores"), true},
+                        {kFirstProvince, "Hombres", ofCause("Tumores"), true},
+                        {kFirstProvince, "Ambos sexos", ofCause("Tumores"), false},
                         {kFirstProvince, "Mujeres", ofCause("Tumores"), true}}) {
     EXPECT_EQ(book.isSuppressed(0, c.unit, c.sex, c.indicator), c.suppressed) << c.sex << c.indicator;
     EXPECT_EQ(book.find(0, c.unit, c.sex, c.indicator) == nullptr, c.suppressed) << c.sex << c.indicator;

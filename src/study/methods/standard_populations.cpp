@@ -1,7 +1,5 @@
 #include "study/methods/standard_populations.h"
 
-#include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace study {
@@ -21,12 +19,6 @@ PublishedStandard published(std::string_view setting, std::string name, const st
   }
   return standard;
 }
-
-double end(const AgeGroup& age) { return age.to.value_or(std::numeric_limits<double>::infinity()); }
-
-bool holds(const AgeGroup& group, const AgeGroup& part) { return group.from <= part.from && end(part) <= end(group); }
-
-bool areApart(const AgeGroup& a, const AgeGroup& b) { return end(a) <= b.from || end(b) <= a.from; }
 
 }  // namespace
 
@@ -59,28 +51,6 @@ const std::vector<PublishedStandard>& publishedStandards() {
                  {"85-89", 1500}, {"90-94", 800},  {"95+", 200}}),
   };
   return standards;
-}
-
-std::optional<StandardPopulation> publishedStandard(std::string_view setting, const std::vector<AgeGroup>& ages) {
-  const auto& standards = publishedStandards();
-  const auto standard = std::find_if(standards.begin(), standards.end(),
-                                     [&](const PublishedStandard& s) { return s.setting == setting; });
-  if (standard == standards.end()) return std::nullopt;
-
-  StandardPopulation result{standard->population.name, std::vector<double>(ages.size())};
-  for (std::size_t part = 0; part < standard->ages.size(); ++part) {
-    int holders = 0;
-    for (std::size_t age = 0; age < ages.size(); ++age) {
-      if (holds(ages[age], standard->ages[part])) {
-        result.weights[age] += standard->population.weights[part];
-        ++holders;
-      } else if (!areApart(ages[age], standard->ages[part])) {
-        return std::nullopt;
-      }
-    }
-    if (holders != 1) return std::nullopt;
-  }
-  return result;
 }
 
 }  // namespace study

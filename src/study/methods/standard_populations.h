@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -20,10 +19,5 @@ struct PublishedStandard {
 // 1976: J. Waterhouse et al. (eds.), "Cancer Incidence in Five Continents", vol. III, IARC Scientific Publications 15,
 // Lyon 1976. 2013: Eurostat, "Revision of the European Standard Population", Luxembourg 2013, doi 10.2785/11470.
 [[nodiscard]] const std::vector<PublishedStandard>& publishedStandards();
-
-// The published standard of that setting, its weights summed into the study's own age groups. None: no standard has
-// that name, or one of the groups is no union of the standard's groups, or one of those is in no group or in several.
-[[nodiscard]] std::optional<StandardPopulation> publishedStandard(std::string_view setting,
-                                                                  const std::vector<AgeGroup>& ages);
 
 }  // namespace study

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "study/output/palette.h"
 #include "study/output/statistics.h"
@@ -27,8 +28,9 @@ void writeStatisticsTable(const Study& study, const std::filesystem::path& folde
   TableWriter table(folder, "Estadisticas",
                     {{"Nombre", text, 60}, {"Tipo", text, 40}, {"Indicador", text, 80}, {"Valor", number}},
                     mapProjection(study));
+  const std::vector<HiddenDeaths> hidden = hiddenDeaths(study);
   const auto addUnit = [&](Unit unit, const TableObject& object) {
-    for (const Statistic& line : statistics(study, unit)) {
+    for (const Statistic& line : statistics(study, hidden, unit)) {
       table.add({study.name(unit), std::string(line.group), line.label, line.value}, object);
     }
   };

@@ -26,11 +26,13 @@ Study study() {
     counts.addDeaths(0, Sex::men, 0, 1);
     result.counts.push_back({counts});
   }
-  const Area square{{{0, 0}, {10'000, 0}, {10'000, 10'000}, {0, 10'000}}};
+  const Area square{{{495'000, 0}, {505'000, 0}, {505'000, 10'000}, {495'000, 10'000}}};
   result.zoneAreas = result.provinceAreas = {square};
   result.regionArea = square;
   return result;
 }
+
+std::vector<Statistic> linesOf(const Study& study, Unit unit) { return statistics(study, hiddenDeaths(study), unit); }
 
 std::optional<double> value(const std::vector<Statistic>& lines, const std::string& label) {
   for (const Statistic& line : lines) {
@@ -40,11 +42,12 @@ std::optional<double> value(const std::vector<Statistic>& lines, const std::stri
 }
 
 TEST(Statistics, TellOfLandPeopleAndDeaths) {
-  const std::vector<Statistic> lines = statistics(study(), {UnitKind::province, 0});
-  EXPECT_EQ(value(lines, "Superficie (km²)"), 100);
+  const std::vector<Statistic> lines = linesOf(study(), {UnitKind::province, 0});
+  // The map makes land on its meridian 0.9996 times as long and as wide.
+  EXPECT_NEAR(value(lines, "Superficie (km²)").value_or(0), 100 / 0.9996 / 0.9996, 1e-4);
   EXPECT_EQ(value(lines, "Zonas básicas de salud"), 1);
   EXPECT_EQ(value(lines, "Provincias"), std::nullopt);
-  EXPECT_EQ(value(lines, "Densidad en 2000 (habitantes/km²)"), 20);
+  EXPECT_NEAR(value(lines, "Densidad en 2000 (habitantes/km²)").value_or(0), 20 * 0.9996 * 0.9996, 1e-4);
   EXPECT_EQ(value(lines, "Población 1999"), 1000);
   EXPECT_EQ(value(lines, "Variación 1999-2000 (%)"), 100);
   EXPECT_EQ(value(lines, "Menores de 15 años en 2000 (%)"), 90);
@@ -54,15 +57,53 @@ TEST(Statistics, TellOfLandPeopleAndDeaths) {
   EXPECT_EQ(value(lines, "AVPP 1999-2000"), 2 * 62.5);
 }
 
-TEST(Statistics, OnlyTheRegionCountsItsProvinces) { EXPECT_EQ(value(statistics(study(), {}), "Provincias"), 1); }
+TEST(Statistics, OnlyTheRegionCountsItsProvinces) { EXPECT_EQ(value(linesOf(study(), {}), "Provincias"), 1); }
 
 TEST(Statistics, SuppressedDeathsAreNotGivenAway) {
   Study hidden = study();
   hidden.suppressBelow = 3;
-  for (const Statistic& line : statistics(hidden, {})) {
+  for (const Statistic& line : linesOf(hidden, {})) {
     EXPECT_NE(line.group, "Mortalidad") << line.label;
-    EXPECT_NE(line.group, "Años potenciales de vida perdidos") << line.label;
+    EXPECT_NE(line.group, "Años de vida potencialmente perdidos") << line.label;
   }
+}
+
+// The province whose deaths must be hidden only because another's are few is silent too.
+TEST(Statistics, DeathsThatWouldGiveOthersAwayAreHidden) {
+  Study few = study();
+  few.suppressBelow = 10;
+  few.provinces = {"Alta", "Baja", "Costa"};
+  few.zones = {{"A", 0}, {"B", 1}, {"C", 2}};
+  few.years = {1999};
+  const Counts one = few.counts[0][0];
+  few.counts = {{one, one, one}};
+  few.counts[0][0].addDeaths(0, Sex::men, 0, 2);
+  few.counts[0][1].addDeaths(0, Sex::men, 0, 40);
+  few.counts[0][2].addDeaths(0, Sex::men, 0, 80);
+  few.provinceAreas = {few.regionArea, few.regionArea, few.regionArea};
+  EXPECT_EQ(value(linesOf(few, {}), "Fallecidos 1999"), 125);
+  EXPECT_EQ(value(linesOf(few, {UnitKind::province, 0}), "Fallecidos 1999"), std::nullopt);
+  EXPECT_EQ(value(linesOf(few, {UnitKind::province, 1}), "Fallecidos 1999"), std::nullopt);
+  EXPECT_EQ(value(linesOf(few, {UnitKind::province, 2}), "Fallecidos 1999"), 81);
+}
+
+TEST(Statistics, NameYearsThatLieApart) {
+  Study apart = study();
+  apart.years = {1999, 2002};
+  const std::vector<Statistic> lines = linesOf(apart, {});
+  EXPECT_EQ(value(lines, "Fallecidos 1999 y 2002"), 2);
+  EXPECT_EQ(value(lines, "Fallecidos 1999-2002"), std::nullopt);
+  EXPECT_EQ(value(lines, "Variación 1999-2002 (%)"), 100) << "from the one to the other";
+  apart.years = {1999, 2000, 2002};
+  apart.counts.push_back(apart.counts.back());
+  EXPECT_EQ(value(linesOf(apart, {}), "Fallecidos 1999, 2000 y 2002"), 3);
+}
+
+TEST(Statistics, NoLandHasNoDensity) {
+  Study empty = study();
+  empty.regionArea = {};
+  EXPECT_EQ(value(linesOf(empty, {}), "Superficie (km²)"), 0);
+  EXPECT_EQ(value(linesOf(empty, {}), "Densidad en 2000 (habitantes/km²)"), std::nullopt);
 }
 
 TEST(Statistics, SurroundingsHaveTheRegionAsAHole) {

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "study/model/study_error.h"
-#include "study/output/windows1252.h"
+#include "study/model/windows1252.h"
 #include "text/number_text.h"
 #include "text/utf8.h"
 

@@ -5,7 +5,7 @@
 
 #include "study/model/study_error.h"
 #include "study/output/palette.h"
-#include "study/output/windows1252.h"
+#include "study/model/windows1252.h"
 
 namespace study {
 

@@ -57,6 +57,15 @@ TEST(Documents, PresentationTellsTheStudysNumbers) {
   EXPECT_TRUE(holds(html, "Mortalidad en Veldoria 1999, 2000, 2002"));
 }
 
+TEST(Documents, UseTellsOfTheReportsThatThereAre) {
+  Study study = testStudy();
+  EXPECT_TRUE(holds(usePage(study), "el informe en PDF del año 1999."));
+  study.years = {2002};
+  EXPECT_TRUE(holds(usePage(study), "no hay informes en PDF"));
+  study.years = {1999, 2000, 2001, 2002};
+  EXPECT_TRUE(holds(usePage(study), "los informes en PDF de los años 1999, 2000 y 2001."));
+}
+
 TEST(Documents, MethodologyTellsTheStudysMethods) {
   Study study = testStudy();
   std::string html = methodologyPage(study);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "study/pages/spanish_numbers.h"
 #include "study/pages/test_html.h"
 
 namespace study::pages {
@@ -36,23 +35,6 @@ TEST(Html, CheckerSeesFaults) {
     EXPECT_NE(faultOf(bad), "") << bad;
   }
   EXPECT_EQ(faultOf("<p class=\"x\">a &amp; b<meta charset=\"u\"></p>"), "");
-}
-
-TEST(SpanishNumbers, HavePointsAndCommas) {
-  struct Case {
-    long number;
-    const char* text;
-  };
-  for (const Case& c : {Case{0, "0"}, Case{999, "999"}, Case{1000, "1.000"}, Case{12345, "12.345"},
-                        Case{1234567, "1.234.567"}, Case{-1234, "-1.234"}, Case{-123, "-123"}}) {
-    EXPECT_EQ(wholeNumber(c.number), c.text);
-  }
-  EXPECT_EQ(decimalNumber(0, 1), "0,0");
-  EXPECT_EQ(decimalNumber(1234.56, 1), "1.234,6");
-  EXPECT_EQ(decimalNumber(91.25, 1), "91,3");
-  EXPECT_EQ(decimalNumber(999.96, 1), "1.000,0");
-  EXPECT_EQ(decimalNumber(1234567.891, 2), "1.234.567,89");
-  EXPECT_EQ(decimalNumber(1999.5, 0), "2.000");
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace study::pages {
 namespace {
 
 std::vector<Column> indicatorColumns() {
-  constexpr const char* kLimits = "Límites de confianza (95 %)";
+  constexpr const char* kLimits = "Límites de confianza (95\u00A0%)";
   return {{"", "Población"},     {"", "Fallecidos"},    {"", "Tasa bruta"}, {"", "Tasa estandarizada"},
           {kLimits, "inferior"}, {kLimits, "superior"}, {"", "AVPP"},       {"", "Tasa de AVPP"}};
 }

@@ -1,8 +1,8 @@
 #include "study/methods/figure.h"
 #include "study/pages/documents.h"
 #include "study/pages/prose.h"
-#include "study/pages/spanish_numbers.h"
 #include "study/pages/year_figures.h"
+#include "text/spanish_number.h"
 
 namespace study::pages {
 
@@ -12,7 +12,7 @@ namespace {
 Cell weightCell(double weight) {
   const auto whole = static_cast<long>(weight);
   if (static_cast<double>(whole) == weight) return countCell(whole);
-  return {decimalNumber(weight, 4)};
+  return {text::spanishNumber(weight, 4)};
 }
 
 Sheet standardSheet(const Study& study) {

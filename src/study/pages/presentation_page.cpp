@@ -1,23 +1,22 @@
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 #include "study/methods/rates.h"
 #include "study/pages/documents.h"
 #include "study/pages/prose.h"
-#include "study/pages/spanish_numbers.h"
+#include "study/pages/report_years.h"
 #include "study/pages/table_page.h"
 #include "study/pages/year_figures.h"
+#include "text/spanish_number.h"
 
 namespace study::pages {
 
 namespace {
 
 constexpr Unit kWhole{UnitKind::region, 0};
-constexpr std::array<int, 3> kReportYears{1999, 2000, 2001};
 
 std::string counted(std::size_t number, std::string_view one, std::string_view several) {
-  return wholeNumber(static_cast<long>(number)) + " " + std::string(number == 1 ? one : several);
+  return text::spanishNumber(static_cast<double>(number), 0) + " " + std::string(number == 1 ? one : several);
 }
 
 std::string divisionOf(const Study& study) {

@@ -4,7 +4,7 @@
 
 #include "study/methods/figure.h"
 #include "study/pages/html.h"
-#include "study/pages/spanish_numbers.h"
+#include "text/spanish_number.h"
 
 namespace study::pages {
 
@@ -125,9 +125,9 @@ std::string blockHtml(const Sheet& sheet, Block block, const std::string& captio
 
 }  // namespace
 
-Cell countCell(long number) { return {wholeNumber(number)}; }
+Cell countCell(long number) { return {text::spanishNumber(static_cast<double>(number), 0)}; }
 
-Cell decimalCell(double number) { return {decimalNumber(number, 1)}; }
+Cell decimalCell(double number) { return {text::spanishNumber(number, 1)}; }
 
 Cell missingCell() { return {"", Mark::missing}; }
 
@@ -135,7 +135,7 @@ Cell hiddenCell() { return {"", Mark::hidden}; }
 
 Cell rateCell(std::optional<double> rate, long deaths) {
   if (!rate) return missingCell();
-  return {decimalNumber(*rate, 1), deaths < kStableDeaths ? Mark::unstable : Mark::none};
+  return {text::spanishNumber(*rate, 1), deaths < kStableDeaths ? Mark::unstable : Mark::none};
 }
 
 std::string html(const Sheet& sheet) {

@@ -32,7 +32,7 @@ td.u { color: #7a4f01; }
 td.m { color: #7b8794; }
 div.dense table { font-size: 12px; }
 div.dense th, div.dense td { padding: 3px 5px; }
-div.dense th.c { min-width: 2.4em; }
+div.dense th.c { min-width: 2.4em; white-space: nowrap; }
 @media print {
   body { margin: 0; font-size: 9pt; }
   h1 { font-size: 13pt; }

@@ -4,9 +4,9 @@
 
 #include "study/methods/figure_book.h"
 #include "study/model/indicators.h"
-#include "study/pages/spanish_numbers.h"
 #include "study/pages/test_html.h"
 #include "study/pages/test_study.h"
+#include "text/spanish_number.h"
 
 namespace study::pages {
 namespace {
@@ -91,10 +91,10 @@ TEST(TablePages, ShowTheFiguresOfTheMaps) {
     const std::string html = provinceIndicatorsPage(YearFigures(study, 0), sex);
     const auto value = [&](std::string_view indicator) { return book.find(0, kAlta, sex.name, indicator)->value; };
     const std::string row = rowsOf(html, "Alta").front();
-    EXPECT_TRUE(row.starts_with(wholeNumber(static_cast<long>(value(kPopulationIndicator))) + " " +
-                                wholeNumber(static_cast<long>(value(kDeathsIndicator))) + " " +
-                                decimalNumber(value(kCrudeRateIndicator), 1) + " " +
-                                decimalNumber(value(kStandardisedRateIndicator), 1) + " "))
+    EXPECT_TRUE(row.starts_with(text::spanishNumber(value(kPopulationIndicator), 0) + " " +
+                                text::spanishNumber(value(kDeathsIndicator), 0) + " " +
+                                text::spanishNumber(value(kCrudeRateIndicator), 1) + " " +
+                                text::spanishNumber(value(kStandardisedRateIndicator), 1) + " "))
         << row;
   }
 }
@@ -152,6 +152,29 @@ TEST(TablePages, HideZonesWithFewDeaths) {
   EXPECT_EQ(rowsOf(men, "Alta Sur"), (Rows{"20.000 (s) (s) (s) (s) (s) 0,0 *0,0"}));
   EXPECT_FALSE(holds(rowsOf(men, "Umbría").front(), "(s)"));
   EXPECT_FALSE(holds(provinceIndicatorsPage(figures, kMen), "(s)"));
+}
+
+// What the maps hide the pages hide, and the other way round.
+TEST(TablePages, HideWhatTheMapsHide) {
+  const Study study = withFewDeaths();
+  const YearFigures figures(study, 0);
+  const FigureBook book(study);
+  std::size_t hidden = 0;
+  for (const SexChoice& sex : kSexChoices) {
+    const std::string zones = zoneIndicatorsPage(figures, sex);
+    for (const Unit zone : study.units(UnitKind::zone)) {
+      const std::string name = study.name(zone) == "Alta <Norte>" ? "Alta &lt;Norte&gt;" : study.name(zone);
+      const bool isHidden = holds(rowsOf(zones, name).front(), " (s) (s) (s) (s) (s) ");
+      EXPECT_EQ(isHidden, book.isSuppressed(0, zone, sex.name, kDeathsIndicator)) << name << sex.name;
+      hidden += isHidden ? 1U : 0U;
+    }
+    for (const Unit province : study.units(UnitKind::province)) {
+      const CauseRow tumours{study.causes.published.data(), 1};
+      EXPECT_EQ(figures.areDeathsHidden(province, sex, tumours, study.ages.size()),
+                book.isSuppressed(0, province, sex.name, std::string(kCausePrefix) + "Tumores"));
+    }
+  }
+  EXPECT_GT(hidden, 0U);
 }
 
 TEST(TablePages, SplitManyProvincesIntoBlocks) {

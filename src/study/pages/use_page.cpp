@@ -1,12 +1,29 @@
+#include <algorithm>
+#include <iterator>
+
 #include "study/pages/documents.h"
 #include "study/pages/prose.h"
+#include "study/pages/report_years.h"
 #include "study/pages/table_parts.h"
 
 namespace study::pages {
 
 namespace {
 
-void describeWindow(Prose& prose) {
+// What the menu of the reports holds.
+std::string reportsOf(const Study& study) {
+  std::vector<int> reports;
+  std::copy_if(study.years.begin(), study.years.end(), std::back_inserter(reports), hasReport);
+  if (reports.empty()) return "no hay informes en PDF de los años de este estudio";
+  if (reports.size() == 1) return "el informe en PDF del año " + std::to_string(reports.front());
+  std::string years = std::to_string(reports.front());
+  for (std::size_t i = 1; i < reports.size(); ++i) {
+    years += (i + 1 == reports.size() ? " y " : ", ") + std::to_string(reports[i]);
+  }
+  return "los informes en PDF de los años " + years;
+}
+
+void describeWindow(Prose& prose, const Study& study) {
   prose.heading("La ventana principal");
   prose.paragraph(
       "Al abrirse, la aplicación muestra el mapa de estadísticas de Veldoria. Cuatro fichas cambian lo que se ve: "
@@ -17,9 +34,7 @@ void describeWindow(Prose& prose) {
   prose.list({
       "«Presentación».",
       "«Información», al pasar el puntero: «Metodología», «Uso de la aplicación» y «Créditos».",
-      "«Estadísticas de mortalidad», al pasar el puntero: los informes en PDF de los años 1999, 2000 y 2001. Del año "
-      "2002 "
-      "no hay informe.",
+      "«Estadísticas de mortalidad», al pasar el puntero: " + reportsOf(study) + ".",
       "«Salir» cierra la aplicación.",
   });
 }
@@ -52,7 +67,8 @@ void describeMaps(Prose& prose) {
   prose.paragraph(
       "Con la herramienta «Información», haga clic en una unidad para leer su valor en el panel de la derecha. La "
       "leyenda "
-      "dice qué representa cada color o símbolo.");
+      "dice qué representa cada color o símbolo. Las tasas por causas de muerte («Tasa x100.000» en la leyenda) son "
+      "tasas estandarizadas por edad.");
 }
 
 void describeData(Prose& prose) {
@@ -100,7 +116,7 @@ std::string usePage(const Study& study) {
       opened(study, study.texts.use, "Uso de la aplicación",
              "La aplicación presenta los resultados del estudio en tablas y en mapas. No modifica sus datos: lo "
              "único que escribe son las copias de las tablas que usted exporte.");
-  describeWindow(prose);
+  describeWindow(prose, study);
   describeTables(prose);
   describeMaps(prose);
   describeData(prose);

@@ -5,8 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "study/methods/hidden_deaths.h"
+#include "study/methods/life_lost.h"
 #include "study/model/study.h"
-#include "study/pages/hidden_cells.h"
 
 namespace study::pages {
 
@@ -21,18 +22,11 @@ struct CauseRow {
 // Rows of one list that a sex has, in the order of the list.
 [[nodiscard]] std::vector<CauseRow> causeRows(const Study& study, std::string_view list, const SexChoice& sex);
 
-// Whether each counted cause is in one published cause of the list, so that the list adds up to all deaths.
-[[nodiscard]] bool addsUp(const CauseList& causes, std::string_view list);
+using study::addsUp;
+using study::earlyDeaths;
 
-// Deaths in the age groups that begin before 70, on which years of life lost rest.
-[[nodiscard]] long earlyDeaths(const ByAge& deaths, const std::vector<AgeGroup>& ages);
-
-// What was counted in a year, summed for the region and its provinces once, and what of it may not be published.
-//
-// Cells of deaths are those of sex, unit, cause and age group together, so that neither a row nor a column of a page,
-// nor its comparison with the page of another sex, unit or kind gives a hidden count away. Years of life lost are
-// published unless the early deaths that they rest on are hidden, by the same rules. Zones, of which no causes are
-// published in pages, have cells of sex and unit.
+// What was counted in a year, summed for the region and its provinces once, and what of it may not be published
+// (HiddenDeaths). Years of life lost are published unless the early deaths that they rest on are hidden.
 class YearFigures {
  public:
   // `year` is an index of the study's years. The study outlives the figures.
@@ -54,10 +48,7 @@ class YearFigures {
   const Study& study_;
   std::size_t year_;
   std::vector<Counts> units_;  // the region, the provinces
-  HiddenCells deaths_;         // by sex, unit, cause, age
-  HiddenCells lifeLost_;       // by sex, unit, cause
-  HiddenCells zoneDeaths_;     // by sex and unit, zones last
-  HiddenCells zoneLifeLost_;
+  HiddenDeaths hidden_;
 };
 
 }  // namespace study::pages

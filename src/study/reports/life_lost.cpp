@@ -25,7 +25,7 @@ void addChart(Flow& flow, const ReportData& data, std::vector<pages::CauseRow> c
   causes.resize(std::min(causes.size(), kMostBars));
   if (causes.empty() || years(causes.front()) <= 0) return;
   BarChart chart;
-  chart.axis = "Años potenciales de vida perdidos antes de los 70";
+  chart.axis = "Años de vida potencialmente perdidos antes de los 70";
   for (const pages::CauseRow& cause : causes) {
     const pages::Cell share = lifeLostShare(data, cause);
     std::string text = printedFigure(data.lifeLostCell({kWholeRegion, kBoth, cause}));

@@ -23,15 +23,13 @@ ByAge ReportData::deathsByAge(const Subject& subject) const {
 }
 
 bool ReportData::isHidden(const Subject& subject) const {
-  if (subject.cause.cause == nullptr && figures_.areDeathsHidden(subject.unit, subject.sex)) return true;
-  return subject.unit.kind != UnitKind::zone &&
-         figures_.areDeathsHidden(subject.unit, subject.sex, subject.cause, study_.ages.size());
+  if (subject.cause.cause == nullptr) return figures_.areDeathsHidden(subject.unit, subject.sex);
+  return figures_.areDeathsHidden(subject.unit, subject.sex, subject.cause, study_.ages.size());
 }
 
 bool ReportData::isLifeLostHidden(const Subject& subject) const {
-  if (isHidden(subject)) return true;
-  if (subject.cause.cause == nullptr && figures_.isLifeLostHidden(subject.unit, subject.sex)) return true;
-  return subject.unit.kind != UnitKind::zone && figures_.isLifeLostHidden(subject.unit, subject.sex, subject.cause);
+  if (subject.cause.cause == nullptr) return figures_.isLifeLostHidden(subject.unit, subject.sex);
+  return figures_.isLifeLostHidden(subject.unit, subject.sex, subject.cause);
 }
 
 std::optional<long> ReportData::deaths(const Subject& subject) const {

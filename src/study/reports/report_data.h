@@ -20,7 +20,7 @@ inline constexpr const SexChoice& kBoth = kSexChoices[0];
 inline constexpr const SexChoice& kMenOnly = kSexChoices[1];
 inline constexpr const SexChoice& kWomenOnly = kSexChoices[2];
 
-// Whom the deaths of a figure are of: a unit's, of a sex, by a cause or by all.
+// Whom the deaths of a figure are of: a unit's, of a sex, by all causes or, in the region or a province, by one.
 struct Subject {
   Unit unit = kWholeRegion;
   SexChoice sex = kBoth;
@@ -29,7 +29,7 @@ struct Subject {
 
 // What a report tells of: a year of a study. All of it outlives the report.
 //
-// Numbers are hidden where the study's pages hide them, so that neither gives away what the other keeps.
+// Numbers are hidden where the study's maps and pages hide them, so that none gives away what another keeps.
 class ReportData {
  public:
   ReportData(const Study& study, const FigureBook& book, std::size_t year);

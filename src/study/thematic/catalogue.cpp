@@ -8,6 +8,7 @@
 #include "study/output/workspace_text.h"
 #include "study/thematic/thematic_palette.h"
 #include "study/thematic/thematic_workspace.h"
+#include "text/file_text.h"
 #include "text/utf8.h"
 
 namespace study {
@@ -50,13 +51,13 @@ class CatalogueWriter {
     writeTable(map, path);
     fs::path workspace = path;
     workspace += ".wor";
-    writeWorkspace(workspace, thematicWorkspace(study_, map, scales_, projection_));
+    writeWorkspace(workspace, thematicWorkspace(study_, map, scales_, projection_, hasFigures(map)));
   }
 
  private:
   void writeTable(const ThematicMap& map, const fs::path& path) const {
     using enum Column::Type;
-    TableWriter table(path.parent_path(), path.filename().string(),
+    TableWriter table(path.parent_path(), ::text::fromPath(path.filename()),
                       {{"Nombre", text, nameWidth(study_)},
                        {"Indicador", text, static_cast<int>(::text::length(map.indicator))},
                        {"Sexo", text, sexWidth()},
@@ -72,11 +73,18 @@ class CatalogueWriter {
     table.close();
   }
 
+  [[nodiscard]] bool hasFigures(const ThematicMap& map) const {
+    for (const Unit unit : unitsOf(study_, map)) {
+      if (book_.find(map.year, unit, map.sex, map.indicator) == nullptr) return false;
+    }
+    return true;
+  }
+
   void writeBase(const ThematicMap& map) {
     const fs::path path = tables_ / basePath(study_, map);
     if (!written_.insert(path).second) return;
     fs::create_directories(path.parent_path());
-    TableWriter table(path.parent_path(), path.filename().string(), {{"Nombre", Column::Type::text, nameWidth(study_)}},
+    TableWriter table(path.parent_path(), ::text::fromPath(path.filename()), {{"Nombre", Column::Type::text, nameWidth(study_)}},
                       projection_);
     for (const Unit unit : unitsOf(study_, map)) table.add({study_.name(unit)}, objects_.of(unit));
     table.close();
@@ -93,9 +101,14 @@ class CatalogueWriter {
 
 }  // namespace
 
-void writeCatalogue(const Study& study, const FigureBook& book, const fs::path& tables) {
+void writeCatalogue(const Study& study, const FigureBook& book, const fs::path& tables, const Progress& progress) {
   CatalogueWriter writer(study, book, tables);
-  for (const ThematicMap& map : thematicMaps(study)) writer.write(map);
+  std::size_t year = study.years.size();
+  for (const ThematicMap& map : thematicMaps(study)) {
+    if (progress) progress(map.year == year ? "" : "Making the thematic maps of " + std::to_string(study.years[map.year]));
+    year = map.year;
+    writer.write(map);
+  }
 }
 
 }  // namespace study

@@ -34,7 +34,7 @@ Rows rowsOf(const fs::path& table) {
 
 class Catalogue : public ::testing::Test {
  protected:
-  void SetUp() override { writeCatalogue(study, book, folder.path()); }
+  void SetUp() override { writeCatalogue(study, book, folder.path(), {}); }
 
   TestFolder folder;
   Study study = testingStudy();

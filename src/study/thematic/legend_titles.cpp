@@ -39,7 +39,7 @@ std::string legendTitle(std::string_view indicator) {
 }
 
 std::string legendSubtitle(std::string_view indicator, std::string_view sex, int year) {
-  return (isCauseRate(indicator) ? "TE x100.000, " : "") + std::string(sex) + ", " + std::to_string(year);
+  return (isCauseRate(indicator) ? "Tasa x100.000, " : "") + std::string(sex) + ", " + std::to_string(year);
 }
 
 }  // namespace study

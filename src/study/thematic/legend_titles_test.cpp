@@ -30,7 +30,7 @@ TEST(LegendTitles, CausesStandAlone) {
   EXPECT_EQ(legendTitle("Tasa estandarizada (x100.000) de Enfermedades del sistema digestivo"),
             "Enf. del sistema digestivo");
   EXPECT_EQ(legendSubtitle("Tasa estandarizada (x100.000) de Neumonía", "Ambos sexos", 2000),
-            "TE x100.000, Ambos sexos, 2000");
+            "Tasa x100.000, Ambos sexos, 2000");
 }
 
 }  // namespace

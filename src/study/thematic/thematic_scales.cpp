@@ -10,16 +10,27 @@ namespace study {
 
 namespace {
 
-std::vector<double> values(const Study& study, const FigureBook& book, UnitKind kind, const std::string& indicator) {
-  std::vector<double> result;
-  for (std::size_t year = 0; year < study.years.size(); ++year) {
-    for (const Unit unit : study.units(kind)) {
-      for (const SexChoice& sex : kSexChoices) {
-        if (const Figure* figure = book.find(year, unit, sex.name, indicator)) result.push_back(figure->value);
+// Of all years, by sex.
+std::vector<std::vector<double>> values(const Study& study, const FigureBook& book, UnitKind kind,
+                                        const std::string& indicator) {
+  std::vector<std::vector<double>> result;
+  for (const SexChoice& sex : kSexChoices) {
+    std::vector<double>& ofSex = result.emplace_back();
+    for (std::size_t year = 0; year < study.years.size(); ++year) {
+      for (const Unit unit : study.units(kind)) {
+        if (const Figure* figure = book.find(year, unit, sex.name, indicator)) ofSex.push_back(figure->value);
       }
     }
   }
   return result;
+}
+
+double greatestOf(const std::vector<std::vector<double>>& groups) {
+  double greatest = 0;
+  for (const std::vector<double>& group : groups) {
+    for (const double value : group) greatest = std::max(greatest, value);
+  }
+  return greatest;
 }
 
 // The least of some readable numbers that is not below `number`, which is greater than 0. They lie close together, so
@@ -40,12 +51,11 @@ ThematicScales::ThematicScales(const Study& study, const FigureBook& book) {
   for (const UnitKind kind : {UnitKind::province, UnitKind::zone}) {
     for (std::size_t i = 0; i < kThematicIndicators; ++i) {
       const Key key{kind, thematicIndicator(i)};
-      std::vector<double> all = values(study, book, kind, key.second);
+      const std::vector<std::vector<double>> all = values(study, book, kind, key.second);
       if (isCount(key.second)) {
-        const double most = all.empty() ? 0 : *std::max_element(all.begin(), all.end());
-        greatest_[key] = readableAbove(std::max(most, 1.0));
+        greatest_[key] = readableAbove(std::max(greatestOf(all), 1.0));
       } else {
-        std::vector<double> limits = classLimits(std::move(all));
+        std::vector<double> limits = classLimits(all);
         limits_[key] = limits.empty() ? std::vector<double>{0, 1} : std::move(limits);
       }
     }

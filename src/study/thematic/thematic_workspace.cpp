@@ -6,6 +6,7 @@
 #include "study/output/workspace_text.h"
 #include "study/thematic/legend_titles.h"
 #include "study/thematic/thematic_palette.h"
+#include "text/file_text.h"
 #include "text/number_text.h"
 #include "text/spanish_number.h"
 
@@ -14,6 +15,7 @@ namespace study {
 namespace {
 
 constexpr std::string_view kLimitsTable = "Limites";
+constexpr std::string_view kNoFigureText = "sin datos";
 // Points of the greatest sign: there is more room in a province than in a zone.
 constexpr int kGreatestProvinceSign = 48;
 constexpr int kGreatestZoneSign = 36;
@@ -22,10 +24,10 @@ bool showsLimits(const ThematicMap& map) { return map.frame.kind == UnitKind::re
 
 // A path below "Tablas" as seen from the map's folder.
 std::string fromMap(const Study& study, const ThematicMap& map, const std::filesystem::path& path) {
-  std::string text;
-  for (auto up = thematicPath(study, map).parent_path(); !up.empty(); up = up.parent_path()) text += "..\\";
-  for (const std::filesystem::path& part : path) text += (text.back() == '\\' ? "" : "\\") + part.string();
-  return text;
+  std::string words;
+  for (auto up = thematicPath(study, map).parent_path(); !up.empty(); up = up.parent_path()) words += "..\\";
+  for (const std::filesystem::path& part : path) words += (words.back() == '\\' ? "" : "\\") + text::fromPath(part);
+  return words;
 }
 
 std::string brush(int colour) {
@@ -54,7 +56,13 @@ std::string signTheme(int base, UnitKind units, double greatest) {
   return words.str();
 }
 
-std::string layers(const ThematicMap& map, int theme) {
+// Names the units that lie bare in a map of counts; it shades all of them alike.
+std::string noFigureTheme(int base) {
+  return "shade " + std::to_string(base) + " with 1 values 1 " + filled(palette::kNoFigure, palette::kNoFigureLine) +
+         "\n";
+}
+
+std::string layers(const ThematicMap& map, int theme, bool namesNoFigure) {
   const bool counts = isCount(map.indicator);
   const bool sparse = showsLimits(map);
   std::string lines = "Set Map\n";
@@ -70,8 +78,9 @@ std::string layers(const ThematicMap& map, int theme) {
                                   .labels = true,
                                   .labelsUpTo = sparse ? 310 : 0,
                                   .selectable = true});
-  lines +=
-      layerLines(theme + 2, {.display = "Global", .penColour = palette::kNoFigureLine, .fill = palette::kNoFigure});
+  if (namesNoFigure) lines += "  Layer " + std::to_string(theme + 2) + "\n    Display Value\n";
+  lines += layerLines(theme + (namesNoFigure ? 3 : 2),
+                      {.display = "Global", .penColour = palette::kNoFigureLine, .fill = palette::kNoFigure});
   return lines;
 }
 
@@ -83,9 +92,19 @@ std::string legend(const Study& study, const ThematicMap& map, int theme, const 
         << "\" Font (\"Verdana\",1,9,0)\n    Subtitle \""
         << legendSubtitle(map.indicator, map.sex, study.years[map.year]) << "\" Font (\"Verdana\",0,8,0)\n";
   if (rows.empty()) return words.str();
-  words << "    Ascending Off\n    Ranges Font (\"Verdana\",0,8,0)\n      \"sin datos\" Display On";
+  words << "    Ascending Off\n    Ranges Font (\"Verdana\",0,8,0)\n      \"" << kNoFigureText << "\" Display On";
   for (const std::string& row : rows) words << " ,\n      \"" << row << "\" Display On";
   words << "\n";
+  return words.str();
+}
+
+std::string noFigureLegend(int theme) {
+  std::ostringstream words;
+  words << "  Layer " << theme
+        << "\n    Display On\n    Shades On\n    Symbols Off\n    Lines Off\n    Count Off\n    Title \"\" Font "
+           "(\"Verdana\",1,9,0)\n    Subtitle \"\" Font (\"Verdana\",0,8,0)\n    Ascending Off\n    Ranges Font "
+           "(\"Verdana\",0,8,0)\n      \"\" Display Off ,\n      \""
+        << kNoFigureText << "\" Display On\n";
   return words.str();
 }
 
@@ -109,8 +128,10 @@ std::vector<std::string> classTexts(const std::vector<double>& limits) {
 }
 
 std::string thematicWorkspace(const Study& study, const ThematicMap& map, const ThematicScales& scales,
-                              const MapProjection& projection) {
+                              const MapProjection& projection, bool isComplete) {
   const bool limits = showsLimits(map);
+  const bool counts = isCount(map.indicator);
+  const bool namesNoFigure = counts && !isComplete;
   const int theme = limits ? 2 : 1;
   std::vector<std::string> tables{std::string(kThematicTable), std::string(kBaseTable)};
   std::string text = workspaceHeader() + openTable(map.indicator, kThematicTable) +
@@ -121,13 +142,15 @@ std::string thematicWorkspace(const Study& study, const ThematicMap& map, const 
   }
   text += mapFrom(tables) + wholeRegion(projection);
   std::vector<std::string> rows;
-  if (isCount(map.indicator)) {
+  if (namesNoFigure) text += noFigureTheme(theme + 1);
+  if (counts) {
     text += signTheme(theme, map.units, scales.greatest(map));
   } else {
     text += colourTheme(theme, scales.limits(map));
     rows = classTexts(scales.limits(map));
   }
-  return text + layers(map, theme) + legend(study, map, theme, rows);
+  text += layers(map, theme, namesNoFigure) + legend(study, map, theme, rows);
+  return namesNoFigure ? text + noFigureLegend(theme + 2) : text;
 }
 
 }  // namespace study

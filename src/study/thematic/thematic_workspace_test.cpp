@@ -13,8 +13,9 @@ namespace {
 class ThematicWorkspaces : public ::testing::Test {
  protected:
   [[nodiscard]] std::string text(Unit frame, UnitKind units, std::string_view indicator,
-                                 std::string_view sex = "Ambos sexos") const {
-    return thematicWorkspace(study, {0, sex, frame, units, std::string(indicator)}, scales, mapProjection(study));
+                                 std::string_view sex = "Ambos sexos", bool isComplete = true) const {
+    return thematicWorkspace(study, {0, sex, frame, units, std::string(indicator)}, scales, mapProjection(study),
+                             isComplete);
   }
   void expectPart(const std::string& text, const std::string& part) const {
     EXPECT_NE(text.find(part), std::string::npos) << part << "\nis not in\n" << text;
@@ -75,6 +76,20 @@ TEST_F(ThematicWorkspaces, CountsAreShownBySigns) {
   expectPart(text({}, UnitKind::zone, kPopulationIndicator), " graduated 0:0 20000:36 Symbol (34,");
   expectPart(map, ") vary size by \"SQRT\"\n");
   EXPECT_EQ(map.find("sin datos"), std::string::npos);
+}
+
+TEST_F(ThematicWorkspaces, CountsThatLackFiguresSaySo) {
+  const std::string map = text({}, UnitKind::zone, kDeathsIndicator, "Hombres", false);
+  // From the bottom up: the units in grey, then the signs; then the map's layers with both themes counted.
+  const std::size_t grey = map.find("shade 3 with 1 values 1 Brush (2," + std::to_string(palette::kNoFigure));
+  ASSERT_NE(grey, std::string::npos);
+  EXPECT_GT(map.find("shade 2 with Valor graduated"), grey);
+  expectPart(map, "  Layer 2\n    Display Value\n  Layer 3\n    Display Graphic\n");
+  expectPart(map, "  Layer 4\n    Display Value\n  Layer 5\n    Display Global\n");
+  expectPart(map, "  Layer 4\n    Display On\n    Shades On");
+  expectPart(map, "      \"\" Display Off ,\n      \"sin datos\" Display On\n");
+  EXPECT_EQ(text({}, UnitKind::zone, kCrudeRateIndicator, "Hombres", false),
+            text({}, UnitKind::zone, kCrudeRateIndicator, "Hombres")) << "rates always say so";
 }
 
 TEST_F(ThematicWorkspaces, LimitsAreTheSameForAllSexes) {

@@ -1,4 +1,4 @@
-#include "study/output/windows1252.h"
+#include "study/model/windows1252.h"
 
 #include <gtest/gtest.h>
 
@@ -22,6 +22,11 @@ TEST(Windows1252, Encodes) {
                         {"€ – “Š”", "\x80 \x96 \x93\x8A\x94"}}) {
     EXPECT_EQ(toWindows1252(c.utf8), c.bytes) << c.utf8;
   }
+}
+
+TEST(Windows1252, KnowsItsCharacters) {
+  for (const char32_t character : U"Año, ÿ, € y – “Œuvre” Ÿ") EXPECT_TRUE(isOfWindows1252(character));
+  for (const char32_t character : {U'Č', char32_t{0x80}, U'日'}) EXPECT_FALSE(isOfWindows1252(character));
 }
 
 TEST(Windows1252, RefusesWhatItDoesNotHave) {

@@ -1,26 +1,39 @@
-#include "study/pages/hidden_cells.h"
+#include "study/methods/hidden_cells.h"
 
 #include <optional>
 #include <utility>
 
-#include "study/methods/figure_book.h"
-
-namespace study::pages {
+namespace study {
 
 HiddenCells::HiddenCells(std::vector<Axis> axes, std::vector<long> counts, int below)
     : axes_(std::move(axes)), counts_(std::move(counts)), below_(below) {
   if (below <= 0) return;
   hidden_.reserve(counts_.size());
-  for (const long count : counts_) hidden_.push_back(study::isSuppressed(count, below));
-  while (protectAll()) {
-  }
+  for (const long count : counts_) hidden_.push_back(isSuppressed(count, below));
+  protect();
+}
+
+std::size_t HiddenCells::placeOf(const std::vector<std::size_t>& cell) const {
+  std::size_t at = 0;
+  for (std::size_t axis = 0; axis < axes_.size(); ++axis) at = at * axes_[axis].size + cell[axis];
+  return at;
 }
 
 bool HiddenCells::isHidden(const std::vector<std::size_t>& cell) const {
-  if (hidden_.empty()) return false;
-  std::size_t at = 0;
-  for (std::size_t axis = 0; axis < axes_.size(); ++axis) at = at * axes_[axis].size + cell[axis];
-  return hidden_[at];
+  return !hidden_.empty() && hidden_[placeOf(cell)];
+}
+
+bool HiddenCells::hide(const std::vector<std::size_t>& cell) {
+  const std::size_t at = placeOf(cell);
+  if (hidden_.empty() || hidden_[at]) return false;
+  hidden_[at] = true;
+  return true;
+}
+
+void HiddenCells::protect() {
+  if (hidden_.empty()) return;
+  while (protectAll()) {
+  }
 }
 
 // Whether anything more was hidden, which may give away something elsewhere.
@@ -76,4 +89,4 @@ bool HiddenCells::givesAway(const AxisSum& sum, std::size_t first, std::size_t s
   return parts == 1 || (parts > 1 && together < below_);
 }
 
-}  // namespace study::pages
+}  // namespace study

@@ -3,7 +3,11 @@
 #include <cstddef>
 #include <vector>
 
-namespace study::pages {
+namespace study {
+
+// Whether a number of deaths may not be published: fewer than `below`, but not none. Whatever is computed from them is
+// not published either. A setting of 0 publishes all.
+[[nodiscard]] constexpr bool isSuppressed(long deaths, int below) { return deaths > 0 && deaths < below; }
 
 // One line of an axis that is the sum of others: all sexes, a province, the whole of a list of causes.
 struct AxisSum {
@@ -35,7 +39,13 @@ class HiddenCells {
   // One index for each axis.
   [[nodiscard]] bool isHidden(const std::vector<std::size_t>& cell) const;
 
+  // Hides a cell that another table hides. Whether it was not hidden yet: `protect` is due then.
+  bool hide(const std::vector<std::size_t>& cell);
+  // Hides what else must be hidden.
+  void protect();
+
  private:
+  [[nodiscard]] std::size_t placeOf(const std::vector<std::size_t>& cell) const;
   [[nodiscard]] bool protectAll();
   [[nodiscard]] bool protectAxis(std::size_t axis, std::size_t step);
   [[nodiscard]] bool protectSum(const AxisSum& sum, std::size_t first, std::size_t step);
@@ -47,4 +57,4 @@ class HiddenCells {
   std::vector<bool> hidden_;  // empty: none is
 };
 
-}  // namespace study::pages
+}  // namespace study

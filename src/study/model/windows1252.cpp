@@ -1,4 +1,4 @@
-#include "study/output/windows1252.h"
+#include "study/model/windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -17,12 +17,19 @@ constexpr std::array<char32_t, 32> kHighBytes{0x20AC, 0,      0x201A, 0x0192, 0x
                                               0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
+bool isLatin1(char32_t character) { return character < 0x80 || (character >= 0xA0 && character <= 0xFF); }
+
 }  // namespace
+
+bool isOfWindows1252(char32_t character) {
+  return isLatin1(character) ||
+         (character != 0 && std::find(kHighBytes.begin(), kHighBytes.end(), character) != kHighBytes.end());
+}
 
 std::string toWindows1252(std::string_view utf8) {
   std::string bytes;
   for (const char32_t character : text::decode(utf8)) {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+    if (isLatin1(character)) {
       bytes.push_back(static_cast<char>(character));
       continue;
     }

@@ -1,4 +1,4 @@
-#include "study/pages/hidden_cells.h"
+#include "study/methods/hidden_cells.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-namespace study::pages {
+namespace study {
 namespace {
 
 // A line of parts and, last, their total: "." for a published cell, "s" for a hidden one.
@@ -85,4 +85,4 @@ TEST(HiddenCells, LeaveNothingToSubtract) {
 }
 
 }  // namespace
-}  // namespace study::pages
+}  // namespace study
