@@ -47,9 +47,17 @@ const std::vector<WithoutEngine>& withoutEngine() {
        kAnyTab,
        {"?set CmbUnidad.ListIndex 1", "?clear TreeView1", "set CmbUnidad.Enabled *", "clear TreeView1"}},
       {"> select Cmb*", kAnyTab, {"clear TreeView1"}},
+      {"> type txtBuscar *",
+       kAnyTab,
+       {"set txtBuscar.Text \"\"", "?clear ListaResultado", "clear ListaResultado", "clear ListaResultado",
+        "clear ListaResultado", kNoEngine, "*"}},
+      {"> resize *", kAnyTab, {"set ShpFondo.Width *", "*"}},
       {"> mouseup OptProvincias", kAnyTab, {"?set OptZbs.Value False", "set OptProvincias.Value True"}},
-      {"> click PDF*", kAnyTab, {"msgbox 0 * \"Acrobat Reader no está instalado correctamente *"}},
+      {"> click PDF*", kAnyTab, {"?dir *", "?shell *", "?findwindow *", "?msgbox *"}},
       {"> click LblSalir", kAnyTab, {"form frmPrincipal unload"}},
+      // What needs no engine meets another state: no selector to close, an answer or a file left from before.
+      {"> click Lbl*", kAnyTab, {"shell *", "findwindow *"}},
+      {"> click ImgExportar", kAnyTab, {"savedialog *", "dir *", "msgbox *", "?copy *", "?error *"}},
       {"> click *", kAnyTab, {}},
       {"> close", kAnyTab, {"form frmPrincipal unload"}},
   };
@@ -82,9 +90,18 @@ constexpr std::array kDifferences{
     Difference{"> click LblSalir", "form frmTematicos unload", "form frmPrincipal unload"},
     // The tool in hand is the one of the tab before.
     Difference{"> mapclick *", "call *", "call *"},
+    Difference{"> mapclick *", "call *", ""},
     // The selectors of the tables are not ready, and the engine is still there.
     Difference{"> select ComboTabla *", "set ComboTipo.Visible *", ""},
     Difference{"> close", "", "release #"},
+    // The engine of a tab that could not be tidied up is let go of at the next one.
+    Difference{"> select Ficha *", "set FichaConsultasDatos.Visible False", "release #"},
+    // Another page is shown.
+    Difference{"> click ImgExportar", "savedialog *", "savedialog *"},
+    Difference{"> click ImgExportar", "copy *", "copy *"},
+    // The selectors of the tables were not put back, so that none is chosen, or nothing is to be emptied.
+    Difference{"> select Combo*", "navigate *", ""},
+    Difference{"> type Combo*", "set Combo*", ""},
     // Another viewer was found, or none.
     Difference{"> click PDF*", "dir *", "msgbox 0 * \"Acrobat Reader no está instalado correctamente *"},
     Difference{"> click PDF*", "shell *", "shell *"},
@@ -176,6 +193,12 @@ std::string complaintWithoutEngine(const Block& block, const Block& undisturbed,
   return matchesSteps(rule->lines, block.lines) ? "" : described(block, "not what is done without an engine");
 }
 
+// An answering line without its answer, which may be nothing.
+std::string question(const std::string& line) {
+  static constexpr std::string_view kNothing = " =·";
+  return line.ends_with(kNothing) ? line.substr(0, line.size() - kNothing.size()) : line.substr(0, line.find(" = "));
+}
+
 std::string complaintWithEngine(const Block& block, const Block& undisturbed) {
   const Lines actual = withoutNumbers(block.lines);
   const Lines expected = withoutNumbers(undisturbed.lines);
@@ -184,9 +207,7 @@ std::string complaintWithEngine(const Block& block, const Block& undisturbed) {
   const std::string now = a == actual.end() ? "" : *a;
   const std::string before = e == expected.end() ? "" : *e;
   if (now.starts_with("error ")) return "";
-  if (beginsWithOneOf(kAnswers, now) && now.substr(0, now.find(" = ")) == before.substr(0, before.find(" = "))) {
-    return "";
-  }
+  if (beginsWithOneOf(kAnswers, now) && question(now) == question(before)) return "";
   const bool isKnown = std::ranges::any_of(kDifferences, [&](const Difference& d) {
     return matchesWildcard(d.script, block.script) && matchesWildcard(d.undisturbed, before) &&
            matchesWildcard(d.disturbed, now);

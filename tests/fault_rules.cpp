@@ -15,6 +15,7 @@ using headless::matchesWildcard;
 
 enum class Step {
   opening,   // a workspace is being opened
+  givingUp,  // one that could not be opened is being given up
   handling,  // anything else
 };
 enum class Reaction { silent, reported };
@@ -41,9 +42,39 @@ constexpr std::string_view kComingUpWithoutMap = "form frmPrincipal show|set *|f
 constexpr std::string_view kEngineNotFound =
     "regquery Path 0 0 = 6|msgbox 48 \"\" \"MapInfo Proviewer no esta Instalado *|form frmInicio unload|"
     "form frmPrincipal unload";
+constexpr std::string_view kWindowCall = "zorder *|findwindow *|closewindow *|parent *";
+constexpr std::string_view kBox = "msgbox *";
 constexpr std::string_view kSelectorUp = "zorder frmTematicos topmost 19";
 
+// Further characters search again, whatever became of the search before.
+constexpr std::string_view kFurtherSearches =
+    "clear ListaResultado|add ListaResultado *|do Select nombre *|do fetch *|eval *|msgbox 0 *|error *";
+
 constexpr Rule kRules[] = {
+    // A workspace whose giving up fails is left as it is: the failure is the caller's, whose trap ends it in silence.
+    {.script = kStart, .step = Step::givingUp, .mayFollow = kComingUp, .mustFollow = "form frmInicio unload"},
+    {.script = "> select CmbMarco *", .step = Step::givingUp, .mayFollow = "*"},
+    {.script = "*", .step = Step::givingUp},
+    // When the desktop refuses a window's place the engine is kept, and the caller goes on with it.
+    {.script = kStart,
+     .step = Step::opening,
+     .call = kWindowCall,
+     .mayFollow = "*",
+     .mustFollow = "form frmInicio unload"},
+    {.script = "> select Ficha *", .step = Step::opening, .call = "zorder frmPrincipal topmost *"},  // no engine yet
+    {.script = "> select Ficha *",
+     .step = Step::opening,
+     .call = kWindowCall,
+     .mayFollow = "*",
+     .mustFollow = "eval frontwindow()*"},
+    {.script = "> select FichaAños *", .step = Step::opening, .call = kWindowCall, .mayFollow = "*"},
+    // A box that is not shown ends its handler, also that of a handler whose trap shows the failure.
+    {.script = kStart, .call = kBox, .mayFollow = kComingUpWithoutMap, .mustFollow = "form frmInicio unload"},
+    {.script = "> select CmbBuscar *", .call = kBox, .mustFollow = "clear ListaResultado"},
+    {.script = "> select FichaAños *", .call = "msgbox 0 *", .mustFollow = "set Panel.Visible False"},
+    {.script = "> type txtBuscar *|> edit txtBuscar *", .call = kBox, .mayFollow = kFurtherSearches},
+    {.script = "> select CmbMarco *", .call = kBox, .mayFollow = "*"},
+    {.script = "*", .call = "msgbox *|savedialog *|help *"},
     // Taking the earlier query off the map is silent, and the query goes on.
     {.script = kQuery,
      .call = "eval frontwindow()|eval LayerInfo(*|do set map layer 1 label default·|do Remove map layer 1 Interactive",
@@ -91,9 +122,7 @@ constexpr Rule kRules[] = {
     // The search that the prompt starts is reported by itself; the list is emptied all the same.
     {.script = "> select CmbBuscar *", .reaction = Reaction::reported, .mustFollow = "clear ListaResultado"},
     // Each further character searches again.
-    {.script = "> type txtBuscar *",
-     .reaction = Reaction::reported,
-     .mayFollow = "clear ListaResultado|add ListaResultado *|do Select nombre *|do fetch *|eval *"},
+    {.script = "> type txtBuscar *|> edit txtBuscar *", .reaction = Reaction::reported, .mayFollow = kFurtherSearches},
     // A choice of the selector ends where it fails; the province's choice goes on after the unit's.
     {.script = "> select CmbMarco *", .step = Step::opening, .mayFollow = "*", .mustFollow = kSelectorUp},
     {.script = "> select CmbMarco *", .mayFollow = "*"},
@@ -105,11 +134,13 @@ constexpr Rule kRules[] = {
     {.script = "> click *|> mouseup *|> resize *|> restore|> mapclick *|> callback *"},
 };
 
-// How a workspace that cannot be opened is given up; the engine, if there was one, is released.
-constexpr std::array kGivingUp{
-    std::string_view("msgbox 48 \"Mortalidad en Veldoria\" \"No se pudo abrir el entorno de trabajo o su ruta es "
-                     "incorrecta.\" = ok"),
-    std::string_view("?release #*"),
+// How a workspace that cannot be opened is given up: a message by the failure's number, the engine let go of where it
+// was the engine's failure, and the window put back as it was.
+constexpr std::string_view kEngineRefused =
+    "msgbox 48 \"Mortalidad en Veldoria\" \"No se pudo abrir el entorno de trabajo o su ruta es incorrecta.\" = ok";
+constexpr std::string_view kOtherRefused =
+    "msgbox 0 \"Mortalidad en Veldoria 1999-2002\" \"Error al cargar el mapa : *\" = ok";
+constexpr std::array kPutBack{
     std::string_view("zorder frmPrincipal notopmost 83"),
     std::string_view("set txtEspere.Visible False"),
     std::string_view("set txtespere1.Visible False"),
@@ -121,14 +152,26 @@ struct Incident {
   std::string script;
   Lines before;  // the failing call is the last
   Lines after;
+  bool isEngines = false;  // the engine's failure
 
   [[nodiscard]] const std::string& call() const { return before.back(); }
-  [[nodiscard]] Step step() const {
-    const auto begun = std::ranges::find(before.rbegin(), before.rend(), "set ProgressBar1.Value 10");
-    const bool done = std::find(before.rbegin(), begun, "set ProgressBar1.Visible False") != begun;
-    return begun != before.rend() && !done ? Step::opening : Step::handling;
-  }
+  [[nodiscard]] Step step() const;
 };
+
+// The message may be the failing call, and then it has no answer.
+bool isGivingUp(const std::string& line) {
+  const auto begins = [&](std::string_view message) {
+    return line.starts_with(message.substr(0, std::min(message.find('*'), message.rfind("\" = ok"))));
+  };
+  return begins(kEngineRefused) || begins(kOtherRefused);
+}
+
+Step Incident::step() const {
+  const auto begun = std::ranges::find(before.rbegin(), before.rend(), "set ProgressBar1.Value 10");
+  const bool done = std::find(before.rbegin(), begun, "set ProgressBar1.Visible False") != begun;
+  if (begun == before.rend() || done) return Step::handling;
+  return std::any_of(before.rbegin(), begun, isGivingUp) ? Step::givingUp : Step::opening;
+}
 
 bool isScriptLine(const std::string& line) { return line.starts_with("> "); }
 
@@ -140,6 +183,7 @@ bool findIncident(const Lines& transcript, Incident& incident) {
   incident.script = *script;
   incident.before.assign(script.base(), at->starts_with("error ") ? at : at + 1);
   incident.after.assign(at + 1, std::find_if(at + 1, transcript.end(), isScriptLine));
+  incident.isEngines = at->starts_with("error " + std::to_string(failures::kEngineRejected) + " ");
   return true;
 }
 
@@ -165,15 +209,16 @@ bool fits(const Rule& rule, const Incident& incident) {
 }
 
 // Takes the lines of giving up a workspace from the front of `rest`.
-bool takeGivingUp(Lines& rest) {
+bool takeGivingUp(Lines& rest, bool isEngines) {
   std::size_t at = 0;
-  for (std::string_view pattern : kGivingUp) {
-    const bool isOptional = pattern.starts_with("?");
-    if (isOptional) pattern.remove_prefix(1);
+  const auto take = [&](std::string_view pattern) {
     const bool isThere = at < rest.size() && matchesWildcard(pattern, rest[at]);
     if (isThere) ++at;
-    if (!isThere && !isOptional) return false;
-  }
+    return isThere;
+  };
+  if (!take(isEngines ? kEngineRefused : kOtherRefused)) return false;
+  if (isEngines) take("release #*");  // if there was one
+  if (!std::ranges::all_of(kPutBack, take)) return false;
   rest.erase(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(at));
   return true;
 }
@@ -205,7 +250,8 @@ std::string complaintAbout(const Lines& transcript) {
   const auto* const rule = std::ranges::find_if(kRules, [&](const Rule& r) { return fits(r, incident); });
   if (rule == std::end(kRules)) return described(incident, "no rule for this");
   Lines rest = incident.after;
-  if (rule->step == Step::opening && !takeGivingUp(rest)) return described(incident, "the workspace was not given up");
+  if (rule->step == Step::opening && !takeGivingUp(rest, incident.isEngines))
+    return described(incident, "the workspace was not given up");
   if (rule->reaction == Reaction::reported && !takeReport(rest)) return described(incident, "not reported");
   bool hasFollowed = rule->mustFollow.empty();
   for (const std::string& line : rest) {

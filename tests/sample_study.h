@@ -16,7 +16,7 @@ inline constexpr const char* kSampleScript = R"(start
 tick
 select Ficha Datos
 select CmbProvincias #1
-select CmbZonas Arbejuelo Alto
+select CmbZonas "Arbejuelo Alto"
 select FichaAños 2001
 close
 )";

@@ -82,7 +82,7 @@ TEST_P(SampleStudy, ListsHoldEachProvinceAndZoneOnce) {
 
 TEST_P(SampleStudy, QueriesListTheUnitAndThoseAboveIt) {
   const Lines& province = blocks_.at("> select CmbProvincias #1");
-  const Lines& zone = blocks_.at("> select CmbZonas Arbejuelo Alto");
+  const Lines& zone = blocks_.at("> select CmbZonas \"Arbejuelo Alto\"");
   const Lines& year = blocks_.at("> select FichaAños 2001");
   expectWholeTree(province, 2);
   expectWholeTree(zone, 3);

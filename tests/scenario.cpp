@@ -60,14 +60,19 @@ std::vector<Block> blocksOf(const Lines& transcript) {
 
 Study::Study(const std::string& name) : folder_(fs::canonical(fs::path(VELDORIA_SCENARIOS) / "tiny")) {
   const fs::path own = file(name, ".app");
-  const bool saves = contentsOf(file(name, ".replay")).find("savename") != std::string::npos;
-  if (!saves && !fs::is_directory(own)) return;
+  const bool saves = contentsOf(file(name, ".replay")).find("click ImgExportar") != std::string::npos;
+  if (saves || fs::is_directory(own)) copyInto(name);
+  if (fs::is_directory(own)) fs::copy(own, folder_, kCopy);
+}
+
+Study::Study() : folder_(fs::canonical(fs::path(VELDORIA_SCENARIOS) / "tiny")) { copyInto("study"); }
+
+void Study::copyInto(const std::string& name) {
   std::string pattern = (fs::temp_directory_path() / ("veldoria-" + name + "-XXXXXX")).string();
   if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("cannot make a folder " + pattern);
   fs::copy(folder_, pattern, kCopy);
   folder_ = fs::canonical(pattern);
   isCopy_ = true;
-  if (fs::is_directory(own)) fs::copy(own, folder_, kCopy);
 }
 
 Study::~Study() {
@@ -76,6 +81,13 @@ Study::~Study() {
 }
 
 std::string Study::folder() const { return text::fromPath(folder_); }
+
+InFolder::InFolder(const std::string& folder) : before_(fs::current_path()) { fs::current_path(text::toPath(folder)); }
+
+InFolder::~InFolder() {
+  std::error_code ignored;
+  fs::current_path(before_, ignored);
+}
 
 Run::Run(const std::string& name, const Study& study) {
   if (const fs::path engine = file(name, ".engine"); fs::exists(engine)) {

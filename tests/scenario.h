@@ -37,14 +37,30 @@ struct Block {
 class Study {
  public:
   explicit Study(const std::string& name);
+  // A copy of the tiny study that belongs to no scenario.
+  Study();
   ~Study();
   Study(const Study&) = delete;
   Study& operator=(const Study&) = delete;
   [[nodiscard]] std::string folder() const;
 
  private:
+  void copyInto(const std::string& name);
+
   std::filesystem::path folder_;
   bool isCopy_ = false;
+};
+
+// While it lives the folder given is the current one, into which a table is saved that is given no path.
+class InFolder {
+ public:
+  explicit InFolder(const std::string& folder);
+  ~InFolder();
+  InFolder(const InFolder&) = delete;
+  InFolder& operator=(const InFolder&) = delete;
+
+ private:
+  std::filesystem::path before_;
 };
 
 // One run of a scenario's program: a replay with the engine and the registry that belong to it. `study` outlives it.

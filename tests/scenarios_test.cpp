@@ -20,6 +20,7 @@ bool updatesGolden() {
 
 Lines transcriptOf(const std::string& name) {
   const scenarios::Study study(name);
+  const scenarios::InFolder here(study.folder());
   scenarios::Run run(name, study);
   run.replay().run(scenarios::contentsOf(scenarios::file(name, ".replay")));
   return run.transcript();

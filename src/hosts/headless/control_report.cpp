@@ -3,7 +3,9 @@
 #include <array>
 #include <memory>
 
+#include "forms/form.h"
 #include "forms/item_list.h"
+#include "forms/tabs.h"
 
 namespace headless {
 namespace {
@@ -33,11 +35,13 @@ std::vector<std::string> propertyLines(const forms::Control& control) {
     const std::string value = control.describe(property);
     if (!value.empty()) show(std::string(forms::name(property)), value);
   }
-  if (const auto* list = dynamic_cast<const forms::ItemList*>(&control)) {
-    for (std::size_t i = 0; i < list->items().size(); ++i) {
-      show("List(" + std::to_string(i) + ")", forms::quoted(list->items()[i]));
-    }
-  }
+  if (!control.toolTipText.empty()) show("ToolTipText", forms::quoted(control.toolTipText));
+  const auto showEach = [&](const std::string& what, const std::vector<std::string>& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) show(what + "(" + std::to_string(i) + ")", forms::quoted(texts[i]));
+  };
+  if (const auto* list = dynamic_cast<const forms::ItemList*>(&control)) showEach("List", list->items());
+  if (const auto* tabs = dynamic_cast<const forms::TabControl*>(&control)) showEach("TabCaption", tabs->captions);
+  if (const auto* tabs = dynamic_cast<const forms::TabStrip*>(&control)) showEach("Tabs", tabs->captions);
   return lines;
 }
 

@@ -5,7 +5,10 @@
 namespace headless {
 
 EmbeddedEngine::EmbeddedEngine(const std::filesystem::path& applicationFolder)
-    : service_(windows_, {.roots = {applicationFolder}, .decimalSign = ",", .thousandsSign = "."}) {}
+    : EmbeddedEngine(applicationFolder, windows_) {}
+
+EmbeddedEngine::EmbeddedEngine(const std::filesystem::path& applicationFolder, motor::WindowPort& windows)
+    : service_(windows, {.roots = {applicationFolder}, .decimalSign = ",", .thousandsSign = "."}) {}
 
 bool EmbeddedEngine::clickMap(const std::string& x, const std::string& y) {
   const auto session = service_.current();

@@ -9,7 +9,7 @@ using forms::quoted;
 platform::WindowHandle RecordingWindows::find(const std::string& title) {
   const auto window = recorder_.ask(
       "findwindow " + quoted(title), [&] { return inner_.find(title); },
-      [](platform::WindowHandle found) { return std::string(found == 0 ? "none" : "found"); });
+      [](platform::WindowHandle found) { return std::string(found == 0 ? "none" : "found"); }, Recorder::Call::windows);
   if (window != 0) titles_[window] = title;
   return window;
 }
@@ -17,19 +17,22 @@ platform::WindowHandle RecordingWindows::find(const std::string& title) {
 // A message to no window goes nowhere and is no effect.
 void RecordingWindows::close(platform::WindowHandle window) {
   if (window == 0) return;
-  recorder_.perform("closewindow " + quoted(titles_[window]), [&] { inner_.close(window); });
+  recorder_.perform(
+      "closewindow " + quoted(titles_[window]), [&] { inner_.close(window); }, Recorder::Call::windows);
 }
 
 void RecordingWindows::setParent(platform::WindowHandle child, platform::WindowHandle parent) {
   const Transcript& transcript = recorder_.transcript();
-  recorder_.perform("parent " + transcript.handleLabel(child) + " -> " + transcript.handleLabel(parent),
-                    [&] { inner_.setParent(child, parent); });
+  recorder_.perform(
+      "parent " + transcript.handleLabel(child) + " -> " + transcript.handleLabel(parent),
+      [&] { inner_.setParent(child, parent); }, Recorder::Call::windows);
 }
 
 void RecordingWindows::setZOrder(platform::WindowHandle window, platform::ZOrder order, unsigned flags) {
-  recorder_.perform("zorder " + recorder_.transcript().handleName(window) +
-                        (order == platform::ZOrder::topmost ? " topmost " : " notopmost ") + std::to_string(flags),
-                    [&] { inner_.setZOrder(window, order, flags); });
+  recorder_.perform(
+      "zorder " + recorder_.transcript().handleName(window) +
+          (order == platform::ZOrder::topmost ? " topmost " : " notopmost ") + std::to_string(flags),
+      [&] { inner_.setZOrder(window, order, flags); }, Recorder::Call::windows);
 }
 
 RecordingRegistry::Opened RecordingRegistry::openKey(const std::string& path, std::uint32_t access) {
@@ -79,17 +82,20 @@ platform::Button RecordingMessages::show(const std::string& text, int style, con
       [&] { return inner_.show(text, style, title); },
       [](platform::Button button) {
         return std::string(button == platform::Button::yes ? "yes" : button == platform::Button::no ? "no" : "ok");
-      });
+      },
+      Recorder::Call::dialogs);
 }
 
 std::string RecordingDialogs::save(const std::string& title, const std::string& filter, const std::string& name) {
   return recorder_.ask(
       "savedialog " + quoted(title) + " " + quoted(filter) + " " + quoted(name),
-      [&] { return inner_.save(title, filter, name); }, [](const std::string& result) { return result; });
+      [&] { return inner_.save(title, filter, name); }, [](const std::string& result) { return result; },
+      Recorder::Call::dialogs);
 }
 
 void RecordingDialogs::help(const std::string& file, int command) {
-  recorder_.perform("help " + file + " " + std::to_string(command), [&] { inner_.help(file, command); });
+  recorder_.perform(
+      "help " + file + " " + std::to_string(command), [&] { inner_.help(file, command); }, Recorder::Call::dialogs);
 }
 
 RecordingPorts::RecordingPorts(const platform::Ports& inner, Recorder& recorder)

@@ -54,6 +54,10 @@ class Replay {
   [[nodiscard]] Faults& faults() { return faults_; }
   // The desktop that the program believes in: other programs' windows may be put on it.
   [[nodiscard]] FakeWindows& windows() { return windows_; }
+  // The program, from its start to the end of its last window; null before and after.
+  [[nodiscard]] atlas::Atlas* program() { return atlas_.get(); }
+  // Whether it was started and is over.
+  [[nodiscard]] bool hasEnded() const { return ended_; }
 
  private:
   // A verb of the script language. Preparing ones may stand before "start"; the others need the program running.
@@ -66,6 +70,8 @@ class Replay {
 
   void act(const Verb& verb, ScriptLine& line);
   void noticeEnd();
+  // The call that the rest of the line names by its number is to fail.
+  void failCall(CallKind kind, ScriptLine& line);
 
   void installDefaults();
   [[nodiscard]] std::string path(const std::string& written) const;

@@ -65,13 +65,16 @@ TEST_F(ReplayTest, SaysWhatIsWrongAndWhere) {
            Case{"start\nclose frmInicio\ntick", "line 3: the program has ended"},
            Case{"fail \"create *\" x", "line 1: fail: the number is no whole number: x"},
            Case{"fail", "line 1: fail: the pattern is missing"},
-           Case{"failat 0 91", "line 1: failat: engine calls are counted from 1"},
+           Case{"failat 0 91", "line 1: failat: calls are counted from 1"},
+           Case{"failcall nothing 1 91", "line 1: no kind of call: nothing (engine, machine, windows or dialogs)"},
+           Case{"failcall dialogs 0 91", "line 1: failcall: calls are counted from 1"},
            Case{"answer maybe", "line 1: no button: maybe (ok, yes or no)"},
            Case{"start\nclose", "line 2: there is no form frmPrincipal yet"},
            Case{"start\ntree", "line 2: there is no tree yet"},
            Case{"start\nclick Nada", "line 2: there is no control Nada yet"},
            Case{"start\ntick\nclick Image2 4", "line 3: there is no control Image2(4) yet"},
            Case{"start\ntick\nclick TreeView1", "line 3: TreeView1 cannot be clicked"},
+           Case{"start\ntick\nedit TreeView1 x", "line 3: TreeView1 cannot be edited"},
            Case{"start\ntick\nselect Ficha Nada",
                 "line 3: Ficha has no Nada; it has \"Tablas\", \"Mapas\", \"Datos\", \"Veldoria\""},
            Case{"start\ntick\nmapclick 1 2", "line 3: there is no map to click on"},
@@ -104,6 +107,33 @@ TEST_F(ReplayTest, WritesWhatWasDoneBeforeTheMistake) {
 TEST_F(ReplayTest, KindsOfLinesCanBeLeftOut) {
   EXPECT_EQ(run("start\nshow frmInicio\nclose frmInicio", {">", "show"}), "");
   EXPECT_EQ(lines, (Lines{"form frmInicio load", "form frmInicio show", "form frmInicio unload"}));
+}
+
+TEST_F(ReplayTest, TheCallOfANumberFails) {
+  EXPECT_EQ(run("failcall machine 2 5\nfailcall dialogs 1 5\nstart\ntick", {">", "form", "set"}), "");
+  EXPECT_EQ(lines[1], "regquery Path 0 0 = 5");
+  const auto box = std::ranges::find_if(lines, [](const std::string& line) { return line.starts_with("msgbox "); });
+  ASSERT_LT(box, lines.end() - 1);
+  EXPECT_EQ(*(box + 1), "error 5 Error definido por la aplicación o el objeto");
+}
+
+// Edited at once a text changes once; typed it is emptied first, and changes with every character.
+TEST_F(ReplayTest, ATextIsTypedOrEdited) {
+  const auto changes = [&](const std::string& script) {
+    EXPECT_EQ(run("start\ntick\n" + script), "");
+    return std::ranges::count(lines, "clear ListaResultado");
+  };
+  const auto none = changes("");
+  EXPECT_EQ(changes("edit txtBuscar ab\nedit txtBuscar ab\nedit txtBuscar a"), none + 2);
+  EXPECT_EQ(changes("edit txtBuscar ab\ntype txtBuscar cd"), none + 4);
+}
+
+TEST_F(ReplayTest, TabsAndToolTipsAreShown) {
+  EXPECT_EQ(run("start\ntick\nshow FichaConsultasDatos\nshow FichaAños\nshow Image3 0"), "");
+  for (const char* line : {"show FichaConsultasDatos.TabCaption(1) \"Búsquedas\"", "show FichaAños.Tabs(0) \"1999\"",
+                           "show Image3(0).ToolTipText \"Zoom+\""}) {
+    EXPECT_EQ(std::ranges::count(lines, line), 1) << line;
+  }
 }
 
 TEST_F(ReplayTest, ControlsAreFoundByTheirFormToo) {

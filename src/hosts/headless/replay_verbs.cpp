@@ -18,7 +18,24 @@ platform::Button button(const std::string& name) {
   throw ScriptError("no button: " + name + " (ok, yes or no)");
 }
 
+CallKind callKind(const std::string& name) {
+  if (name == "engine") return CallKind::engine;
+  if (name == "machine") return CallKind::machine;
+  if (name == "windows") return CallKind::windows;
+  if (name == "dialogs") return CallKind::dialogs;
+  throw ScriptError("no kind of call: " + name + " (engine, machine, windows or dialogs)");
+}
+
 }  // namespace
+
+void Replay::failCall(CallKind kind, ScriptLine& line) {
+  const int call = line.wholeNumber("the call");
+  const int number = line.wholeNumber("the number");
+  const std::string description = line.hasMore() ? line.text("the text") : "";
+  line.finish();
+  if (call < 1) throw ScriptError(line.verb() + ": calls are counted from 1");
+  faults_.failCall(kind, call, failureNumbered(number, description));
+}
 
 const Replay::Verb* Replay::findVerb(const std::string& name) {
   static constexpr std::array kVerbs = std::to_array<Verb>({
@@ -91,6 +108,13 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
          line.finish();
          user::type(control, text);
        }},
+      {"edit", false,
+       [](Replay& r, ScriptLine& line) {
+         forms::Control& control = r.control(line);
+         const std::string& text = line.text("the text");
+         line.finish();
+         user::edit(control, text);
+       }},
       {"mapclick", false,
        [](Replay& r, ScriptLine& line) {
          const std::string& x = line.text("x");
@@ -137,6 +161,11 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
          r.files_.pretendNoFile(r.path(line.text("the path")));
          line.finish();
        }},
+      {"window", true,
+       [](Replay& r, ScriptLine& line) {
+         r.windows_.addWindow(line.text("the title"));
+         line.finish();
+       }},
       {"fail", true,
        [](Replay& r, ScriptLine& line) {
          const std::string pattern = line.text("the pattern");
@@ -147,12 +176,12 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
        }},
       {"failat", true,
        [](Replay& r, ScriptLine& line) {
-         const int call = line.wholeNumber("the engine call");
-         const int number = line.wholeNumber("the number");
-         const std::string description = line.hasMore() ? line.text("the text") : "";
-         line.finish();
-         if (call < 1) throw ScriptError("failat: engine calls are counted from 1");
-         r.faults_.failCall(CallKind::engine, call, failureNumbered(number, description));
+         r.failCall(CallKind::engine, line);
+       }},
+      {"failcall", true,
+       [](Replay& r, ScriptLine& line) {
+         const std::string& kind = line.text("the kind of call");
+         r.failCall(callKind(kind), line);
        }},
       {"show", false,
        [](Replay& r, ScriptLine& line) {

@@ -81,6 +81,12 @@ void type(forms::Control& control, const std::string& text) {
   cannot(control, "typed into");
 }
 
+void edit(forms::Control& control, const std::string& text) {
+  if (auto* box = dynamic_cast<forms::TextBox*>(&control)) return box->userEdit(text);
+  if (auto* combo = dynamic_cast<forms::EditableCombo*>(&control)) return combo->userEdit(text);
+  cannot(control, "edited");
+}
+
 void tick(const forms::Form& form) {
   for (forms::Control* control : form.controls()) {
     if (auto* timer = dynamic_cast<forms::Timer*>(control)) timer->elapse();

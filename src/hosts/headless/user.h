@@ -16,6 +16,8 @@ void select(forms::Control& control, const Word& what);
 void release(forms::Control& control);
 // Enters the box, empties it, and types the text one character after the other.
 void type(forms::Control& control, const std::string& text);
+// Changes the box's text into another at once, as by pasting over it or by deleting a part.
+void edit(forms::Control& control, const std::string& text);
 // The time of all enabled timers of a form has come.
 void tick(const forms::Form& form);
 
