@@ -9,13 +9,15 @@
 #include <vector>
 
 #include "hosts/desktop/desktop_program.h"
+#include "hosts/desktop/screen_picture.h"
 #include "hosts/desktop/tour.h"
 
 namespace {
 
 constexpr const char* kUsage =
     "usage: tour APPFOLDER OUT [WIDTHxHEIGHT] [SCALE]\n"
-    "Takes the program through its modes without a display and leaves a picture of each step in OUT.\n";
+    "Takes the program through its modes on a screen of that size and scale that nobody sees, and leaves a picture of\n"
+    "each step in OUT.\n";
 
 std::optional<QSize> sizeFrom(std::string_view text) {
   int width = 0;
@@ -28,26 +30,33 @@ std::optional<QSize> sizeFrom(std::string_view text) {
   return QSize(width, height);
 }
 
+std::optional<double> scaleFrom(std::string_view text) {
+  constexpr double kLargest = 4;
+  double scale = 0;
+  const auto [end, no] = std::from_chars(text.data(), text.data() + text.size(), scale);
+  if (no != std::errc() || end != text.data() + text.size() || scale <= 0 || scale > kLargest) return std::nullopt;
+  return scale;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::vector<std::string> words(argv + 1, argv + argc);
-  const auto size = words.size() < 3 ? QSize(1280, 860) : sizeFrom(words[2]);
-  if (words.size() < 2 || words.size() > 4 || !size) {
+  const auto size = words.size() < 3 ? QSize(1440, 900) : sizeFrom(words[2]);
+  const auto scale = words.size() < 4 ? 1.0 : scaleFrom(words[3]);
+  if (words.size() < 2 || words.size() > 4 || !size || !scale) {
     std::cerr << kUsage;
     return 2;
   }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const desktop::UnseenScreen screen(*size, *scale);
   qputenv("QT_LOGGING_RULES", "default.warning=false");  // what a screenless toolkit cannot do
-  if (words.size() == 4) qputenv("QT_SCALE_FACTOR", QByteArray::fromStdString(words[3]));
   QApplication application(argc, argv);
   desktop::prepareApplication(application);
 
   const std::filesystem::path pictures = std::filesystem::absolute(words[1]);
   std::filesystem::create_directories(pictures);
-  desktop::UserPrograms programs;
+  desktop::NotedPrograms programs;
   desktop::DesktopProgram program(std::filesystem::canonical(words[0]).string(), programs);
-  program.host().setFirstSize(*size);
-  desktop::Tour tour(program, pictures, std::cout);
+  desktop::Tour tour(program, programs, pictures, std::cout);
   return tour.walk() ? 0 : 1;
 }

@@ -18,13 +18,13 @@ void silently(Handler handler) {
   }
 }
 
-// Shows the failure's description.
+// Shows the failure's description; when that cannot be shown either, nobody hears of it.
 template <class Handler>
 void reporting(platform::Messages& messages, Handler handler) {
   try {
     handler();
   } catch (const std::exception& failure) {
-    messages.show(failure.what(), platform::kOkOnly, kProgramTitle);
+    silently([&] { messages.show(failure.what(), platform::kOkOnly, kProgramTitle); });
   }
 }
 

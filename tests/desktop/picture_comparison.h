@@ -1,15 +1,15 @@
 #pragma once
 
 #include <QImage>
-#include <optional>
 
 namespace pictures {
 
-// How far two pictures may lie apart and still count as alike. Shades of an edge differ a little between machines;
-// words, colours and places do not.
+// How far two pictures may lie apart and still count as alike. The shades along an edge differ a little between
+// machines: a pixel is another one when its colour lies outside those of the other picture around its place. So a word
+// that is missing, another colour or a line two pixels away are seen, however small they are.
 struct Tolerance {
-  int shade = 40;         // difference of a colour channel, of 255, from which a pixel counts as another
-  double share = 0.0015;  // of all pixels that may be others
+  int shade = 12;          // of 255, by which a colour may lie outside those around its place
+  double share = 0.00001;  // of all pixels that may be others
 };
 
 struct Difference {

@@ -1,108 +1,136 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QLineEdit>
-#include <QTest>
-#include <cmath>
-#include <cstdlib>
-#include <filesystem>
+#include <QTreeWidget>
 #include <functional>
-#include <memory>
 
 #include "atlas/shell/frm_inicio.h"
 #include "atlas/shell/frm_principal.h"
+#include "atlas/thematic/frm_tematicos.h"
+#include "golden_picture.h"
 #include "hosts/desktop/desktop_program.h"
+#include "hosts/desktop/screen_picture.h"
+#include "hosts/desktop/tour_guide.h"
 #include "hosts/desktop/user_hands.h"
-#include "picture_comparison.h"
 
-// The program's windows on the tiny study, compared with the pictures beside this file. VELDORIA_UPDATE_GOLDEN=1 writes
-// them anew, to be looked at before they are kept. A picture that differs is left in the folder of the test's run, with
-// a map of the differences.
+// The program's windows on the tiny study, compared with the pictures beside this file.
 namespace {
 
-namespace fs = std::filesystem;
+namespace hands = desktop::hands;
+using pictures::expectScreen;
 
-constexpr QSize kWindow(1180, 780);
-
-// Pictures of each scaling lie in a folder of their own.
-fs::path goldenFolder() {
-  const int percent = static_cast<int>(std::lround(qApp->devicePixelRatio() * 100));
-  return fs::path(VELDORIA_PICTURES) / std::to_string(percent);
-}
-
-void expectPicture(QWidget& window, const std::string& name) {
-  desktop::hands::settle();
-  const QImage actual = window.grab().toImage();
-  const fs::path golden = goldenFolder() / (name + ".png");
-  if (std::getenv("VELDORIA_UPDATE_GOLDEN") != nullptr) {
-    fs::create_directories(golden.parent_path());
-    ASSERT_TRUE(actual.save(QString::fromStdString(golden.string()), "PNG", 0)) << golden;
-    return;
-  }
-  const QImage expected(QString::fromStdString(golden.string()));
-  ASSERT_FALSE(expected.isNull()) << "no picture " << golden;
-  const pictures::Tolerance tolerance;
-  const pictures::Difference difference = pictures::compare(expected, actual, tolerance);
-  if (difference.share <= tolerance.share) return;
-  actual.save(QString::fromStdString(name + ".png"));
-  difference.map.save(QString::fromStdString(name + "-difference.png"));
-  ADD_FAILURE() << name << ": " << difference.share * 100 << " % of the pixels are others; see " << fs::current_path();
-}
+enum MainTab : int { kTables, kMaps, kData, kStatistics };
 
 class Pictures : public ::testing::Test {
  protected:
-  void SetUp() override {
-    program.host().setFirstSize(kWindow);
+  // A working window that takes so much room with its title.
+  void start(QSize window) {
+    program.host().setFirstSize(window - QSize(0, desktop::kPictureTitleHeight));
     program.start();
-    desktop::hands::settle();
+    hands::settle();
   }
-
+  void startAtOnce(QSize window) {
+    start(window);
+    hands::doubleClick(*program.host().windowOf(program.atlas().frmInicio()));
+  }
   void user(const std::function<void()>& does) {
     program.calls().run(does);
-    desktop::hands::settle();
+    hands::settle();
   }
-  void passSplash() { desktop::hands::doubleClick(*program.host().windowOf(program.atlas().frmInicio())); }
+  void openTab(MainTab tab) {
+    if (form().Ficha.tab() != tab) user([&] { form().Ficha.userPick(tab); });
+  }
+  void consultAZone() {
+    user([this] { form().CmbProvincias.userPick(1); });
+    user([this] { form().CmbZonas.userPick(0); });
+    user([this] { form().FichaAños.userPick(2); });
+  }
   [[nodiscard]] atlas::FrmPrincipal& form() { return program.atlas().frmPrincipal(); }
-  [[nodiscard]] QWidget& window() { return *program.host().windowOf(form()); }
+  template <class Widget = QWidget>
+  [[nodiscard]] Widget& widget(const char* name) {
+    return *program.host().windowOf(form())->findChild<Widget*>(QString::fromUtf8(name));
+  }
 
-  desktop::UserPrograms programs;
+  desktop::NotedPrograms programs;
   desktop::DesktopProgram program{VELDORIA_TINY_STUDY, programs};
 };
 
-TEST_F(Pictures, Splash) { expectPicture(*program.host().windowOf(program.atlas().frmInicio()), "splash"); }
+// --- every mode at every size ---
 
-TEST_F(Pictures, StatisticsMap) {
-  passSplash();
-  expectPicture(window(), "statistics");
+class ModePictures : public Pictures, public ::testing::WithParamInterface<QSize> {
+ protected:
+  void SetUp() override { startAtOnce(GetParam()); }
+  void expectMode(const std::string& name) { expectScreen(name + "-" + pictures::sizeName(GetParam())); }
+};
+
+TEST_P(ModePictures, Statistics) { expectMode("veldoria"); }
+
+TEST_P(ModePictures, Data) {
+  openTab(kData);
+  consultAZone();
+  expectMode("datos");
 }
 
-TEST_F(Pictures, ProvinceAndZoneConsulted) {
-  passSplash();
-  user([this] { form().Ficha.userPick(2); });
-  expectPicture(window(), "year-map");
-  user([this] { form().CmbProvincias.userPick(1); });
-  expectPicture(window(), "province");
-  user([this] { form().CmbZonas.userPick(0); });
-  user([this] { form().FichaAños.userPick(2); });
-  expectPicture(window(), "zone-in-2001");
+TEST_P(ModePictures, ThematicMapsWithSelectorAndLegend) {
+  openTab(kMaps);
+  expectMode("mapas");
 }
 
-TEST_F(Pictures, Search) {
-  passSplash();
-  user([this] { form().Ficha.userPick(2); });
+TEST_P(ModePictures, Tables) {
+  openTab(kTables);
+  expectMode("tablas");
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, ModePictures, ::testing::Values(QSize(1024, 768), QSize(1440, 900), QSize(1920, 1080)),
+                         [](const auto& size) { return "At" + std::to_string(size.param.width()); });
+
+// --- what else is seen ---
+
+class DetailPictures : public Pictures {
+ protected:
+  static constexpr QSize kWindow{1024, 768};
+};
+
+TEST_F(DetailPictures, Splash) {
+  start(kWindow);
+  expectScreen("portada");
+}
+
+TEST_F(DetailPictures, MenuByKeyboard) {
+  startAtOnce(kWindow);
+  widget("LblInformacion").setFocus(Qt::TabFocusReason);
+  hands::settle();
+  expectScreen("menu");
+}
+
+TEST_F(DetailPictures, TreeWithItsMenu) {
+  startAtOnce(kWindow);
+  openTab(kData);
+  consultAZone();
+  auto& tree = widget<QTreeWidget>("TreeView1");
+  tree.setFocus(Qt::TabFocusReason);
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Asterisk, Qt::Key_Down, Qt::Key_Down}) hands::press(tree, key);
+  QContextMenuEvent byKeyboard(QContextMenuEvent::Keyboard, {}, {});
+  QCoreApplication::sendEvent(&tree, &byKeyboard);
+  expectScreen("menu-del-arbol");
+}
+
+TEST_F(DetailPictures, Search) {
+  startAtOnce(kWindow);
+  openTab(kData);
   user([this] { form().FichaConsultasDatos.userPick(1); });
   user([this] { form().CmbBuscar.userPick(1); });
-  auto* box = window().findChild<QLineEdit*>(QStringLiteral("txtBuscar"));
-  ASSERT_NE(box, nullptr);
-  box->setFocus();
-  QTest::keyClicks(box, QStringLiteral("enc"));
-  expectPicture(window(), "search");
+  hands::type(widget<QLineEdit>("txtBuscar"), QStringLiteral("enc"));
+  expectScreen("busqueda");
 }
 
-TEST_F(Pictures, Tables) {
-  passSplash();
-  user([this] { form().Ficha.userPick(0); });
-  expectPicture(window(), "tables");
+TEST_F(DetailPictures, AThematicMapOfAProvince) {
+  startAtOnce(kWindow);
+  openTab(kMaps);
+  user([this] { program.atlas().frmTematicos().CmbMarco.userPick(2); });
+  expectScreen("mapas-provincia");
 }
 
 }  // namespace

@@ -130,6 +130,7 @@ void FrmPrincipal::defineTreeSide() {
 
 void FrmPrincipal::defineConsultations() {
   FichaConsultasDatos.captions = {"Consultas", "Búsquedas"};
+  FichaConsultasDatos.accessibleName = "Consultas y búsquedas";
   FichaConsultasDatos.place(10334, 7937, 4400, 2500);
   FichaConsultasDatos.setVisible(false);
 
@@ -232,6 +233,7 @@ void FrmPrincipal::defineToolbars() {
 
 void FrmPrincipal::defineMainArea() {
   Ficha.captions = {"Tablas", "Mapas", "Datos", "Veldoria"};
+  Ficha.accessibleName = "Modo";
   Ficha.place(kTabsLeft, kTabsTop, 9830, 9792);
   Internet.accessibleName = "Tabla";
   Internet.place(kTabsLeft + 275, kTabsTop + 790, 9280, 8972);
@@ -242,7 +244,9 @@ void FrmPrincipal::defineMainArea() {
   Panel.setVisible(false);
   ProgressBar1.place(kMapLeft, kMapTop + 8992 - 255, 9330, 255);
   ProgressBar1.setVisible(false);
+  ProgressBar1.accessibleName = "Progreso";
   FichaAños.captions = {"1999", "2000", "2001", "2002"};
+  FichaAños.accessibleName = "Año";
   FichaAños.place(7180, kTabsTop, 2800, 390);
   FichaAños.setVisible(false);
 }

@@ -8,6 +8,7 @@
 #include "atlas/shell/frm_inicio.h"
 #include "atlas/shell/statistics_workspace.h"
 #include "hosts/desktop/rehearsal.h"
+#include "hosts/desktop/spanish_words.h"
 #include "hosts/desktop/theme.h"
 #include "platform/paths.h"
 
@@ -37,15 +38,16 @@ void prepareApplication(QApplication& application) {
   if (spanish->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(spanish);
   }
+  QApplication::installTranslator(new SpanishWords(&application));
   theme::install(application);
 }
 
 DesktopProgram::DesktopProgram(const std::string& applicationFolder, DesktopPrograms& programs)
-    : engines_(mapWindows_, engineOptions(applicationFolder)),
+    : sessions_(mapWindows_, engineOptions(applicationFolder)),
       files_(machineFiles_, programs),
       registry_(programs),
       programs_(programs),
-      dialogs_(host_, machineFiles_, programs) {
+      dialogs_(host_, machineFiles_) {
   calls_.ended = [this] {
     over_ = true;
     QCoreApplication::quit();

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "atlas/atlas.h"
+#include "hosts/desktop/ports/answered_engines.h"
 #include "hosts/desktop/ports/desktop_files.h"
 #include "hosts/desktop/ports/desktop_registry.h"
 #include "hosts/desktop/ports/qt_dialogs.h"
@@ -47,7 +48,8 @@ class DesktopProgram {
   ProgramCalls calls_;
   motor::WidgetHandles handles_;
   motor::QtWindows mapWindows_{handles_};
-  motor::SessionService engines_;
+  motor::SessionService sessions_;
+  AnsweredEngines engines_{sessions_, calls_};
   QtHost host_{calls_, handles_};
   QtWindowSystem windows_{host_, handles_};
   QtMessages messages_{host_};

@@ -3,17 +3,21 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 
 #include "hosts/desktop/artwork.h"
 #include "hosts/desktop/focus_order.h"
+#include "hosts/desktop/panes.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/image_view.h"
 #include "hosts/desktop/views/picture_box_view.h"
 #include "hosts/desktop/views/tab_control_view.h"
+#include "hosts/desktop/views/tab_row.h"
 #include "hosts/desktop/views/view_factory.h"
+#include "hosts/desktop/window_placement.h"
 
 namespace desktop {
 namespace {
@@ -116,7 +120,6 @@ void FormWindow::syncChoices() {
   using enum forms::Property;
   for (const auto& view : views_) {
     for (const auto property : {ListIndex, Value, SelectedItem, Tab}) view->sync(property);
-    view->callReturned();
   }
 }
 
@@ -153,6 +156,7 @@ void FormWindow::closeWithOwner() {
 // The keyboard begins where nothing is started by a key pressed too early.
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  if (look_ == FormLook::palette) move(onScreen(pos(), frameGeometry().size(), screen()->availableGeometry()));
   if (focusWidget() != nullptr) return;
   if (QWidget* first = firstChoice(*this)) first->setFocus(Qt::OtherFocusReason);
 }
@@ -219,14 +223,44 @@ void FormWindow::mouseDoubleClickEvent(QMouseEvent*) {
   if (isListening()) calls_.run([this] { form_.userDoubleClick(); });
 }
 
-// Escape closes a palette, and elsewhere takes the pointer off whatever it opened.
+// Escape closes a palette, and elsewhere takes the pointer off whatever it opened; F6 goes from one part of the window
+// to the next, Control and Tab from one page to the next.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
-  if (look_ == FormLook::palette) {
-    close();
-  } else {
-    pointAtForm();
+  const bool back = event->modifiers().testFlag(Qt::ShiftModifier);
+  const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      if (look_ != FormLook::palette) {
+        pointAtForm();
+      } else {
+        close();
+      }
+      break;
+    case Qt::Key_F6:
+      goToPane(!back);
+      break;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      if (control) turnPage(!back);
+      break;
+    default:
+      QWidget::keyPressEvent(event);
   }
+}
+
+void FormWindow::goToPane(bool next) {
+  QWidget* target = nextPane(*this, focusWidget(), next);
+  if (target == nullptr) return;
+  target->window()->activateWindow();
+  target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+}
+
+void FormWindow::turnPage(bool next) {
+  TabRow* headings = headingsFor(*this, focusWidget());
+  if (headings == nullptr) return;
+  headings->window()->activateWindow();
+  headings->setFocus(Qt::TabFocusReason);
+  headings->turn(next ? 1 : -1);
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {

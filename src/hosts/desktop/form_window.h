@@ -55,6 +55,8 @@ class FormWindow : public QWidget {
   // The control that a widget of this window shows, or null.
   [[nodiscard]] const forms::Control* controlOf(const QWidget& widget) const;
   void pointAtForm();
+  void goToPane(bool next);
+  void turnPage(bool next);
   void reportSize();
   void reportPlace();
   [[nodiscard]] bool isListening() const { return form_.isLoaded(); }

@@ -196,6 +196,37 @@ TEST(FirstPlace, IsNeverTooSmallForWhatLiesInTheWindow) {
   EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, QRect(0, 0, 640, 480)).size(), smallestSize(FormLook::window));
 }
 
+TEST(FirstPlace, IsSeenWholeOnUsualScreens) {
+  struct Case {
+    QRect screen;  // without the desktop's own bars
+    QSize size;
+  };
+  for (const Case& each :
+       {Case{{0, 0, 1024, 768}, {1008, 728}}, Case{{0, 0, 1024, 728}, {1008, 688}}, Case{{0, 0, 1280, 760}, {1178, 720}},
+        Case{{0, 27, 1440, 873}, {1325, 803}}, Case{{66, 27, 1854, 1053}, {1706, 969}},
+        Case{{0, 0, 2560, 1400}, {2355, 1288}}}) {
+    const QRect place = firstPlace(FormLook::window, {1024, 768}, each.screen);
+    EXPECT_EQ(place.size(), each.size) << each.screen.width();
+    EXPECT_TRUE(each.screen.contains(QRect(place.topLeft(), place.size() + QSize(16, 40)))) << each.screen.width();
+  }
+}
+
+TEST(PaletteSize, EndsALittleBeyondItsControls) {
+  ProgramCalls calls;
+  motor::WidgetHandles handles;
+  QtHost host(calls, handles);
+  const testing::TestForm form(host, "frmTematicos");
+  EXPECT_EQ(paletteSize(form), QSize(600 + 8, 460 + 8));
+}
+
+TEST(OnScreen, MovesNoFurtherThanNeeded) {
+  const QRect screen(0, 30, 1000, 700);
+  EXPECT_EQ(onScreen({100, 200}, {300, 100}, screen), QPoint(100, 200));
+  EXPECT_EQ(onScreen({100, 660}, {300, 100}, screen), QPoint(100, 630));
+  EXPECT_EQ(onScreen({900, 10}, {300, 100}, screen), QPoint(700, 30));
+  EXPECT_EQ(onScreen({50, 50}, {1200, 900}, screen), QPoint(0, 30));
+}
+
 TEST(ScaleFor, MakesRoomForTheWindow) {
   EXPECT_EQ(scaleFor({1024, 768}), 1);
   EXPECT_EQ(scaleFor({1920, 1040}), 1);

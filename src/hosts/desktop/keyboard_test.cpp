@@ -2,8 +2,10 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QTreeWidget>
 
 #include "hosts/desktop/focus_order.h"
+#include "hosts/desktop/panes.h"
 #include "hosts/desktop/shown_form.h"
 #include "hosts/desktop/theme.h"
 
@@ -116,6 +118,89 @@ TEST_F(Keyboard, ADropDownListBeginsWithItsFirstItem) {
   hands::press(*combo.view(), Qt::Key_Down);
   hands::press(*combo.view(), Qt::Key_Return);
   EXPECT_EQ(form.take(), (Events{"drop click Lirio"}));
+}
+
+TEST_F(Keyboard, EscapeClosesADropDownListAndPicksNothing) {
+  for (const char* name : {"Lirio", "Álamo"}) form.drop.addItem(name);
+  auto& combo = widget<QComboBox>(form.drop);
+  combo.showPopup();
+  hands::settle();
+  ASSERT_TRUE(combo.view()->isVisible());
+  QTest::keyClick(combo.view(), Qt::Key_Down);
+  QTest::keyClick(combo.view(), Qt::Key_Escape);
+  EXPECT_FALSE(combo.view()->isVisible());
+  EXPECT_EQ(combo.currentIndex(), -1);
+  EXPECT_EQ(form.take(), Events{});
+}
+
+TEST_F(Keyboard, DownLeadsFromATextBoxToWhatFollows) {
+  widget(form.box).setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&widget(form.box), Qt::Key_Down);
+  EXPECT_EQ(window().focusWidget(), &widget(form.years));
+}
+
+TEST_F(Keyboard, EnterAndSpaceOpenAndCloseABranch) {
+  forms::Node& unit = form.tree.add(nullptr, "Brisa");
+  forms::Node& sex = form.tree.add(&unit, "Hombres");
+  form.tree.add(&sex, "Población: 7");
+  auto& tree = widget<QTreeWidget>(form.tree);
+  tree.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(tree.selectedItems(), QList{tree.topLevelItem(0)});
+  QTest::keyClick(&tree, Qt::Key_Return);
+  EXPECT_TRUE(unit.expanded());
+  QTest::keyClick(&tree, Qt::Key_Space);
+  EXPECT_FALSE(unit.expanded());
+  QTest::keyClick(&tree, Qt::Key_Asterisk);
+  EXPECT_TRUE(unit.expanded());
+  EXPECT_TRUE(sex.expanded());
+}
+
+TEST_F(Keyboard, F6GoesFromPartToPart) {
+  form.popUp.setVisible(true);
+  Events names;
+  window().activateWindow();
+  rowOf(form.pages).setFocus(Qt::TabFocusReason);
+  for (int i = 0; i < 10; ++i) {
+    QTest::keyClick(window().focusWidget(), Qt::Key_F6);
+    names.push_back(window().focusWidget()->objectName().toStdString());
+  }
+  EXPECT_EQ(names, (Events{"Internet", "CmbLista", "ComboTexto", "txtTexto", "FichaAños", "Arbol", "BtnVer", "LblMenu",
+                           "", "Internet"}));
+  QTest::keyClick(window().focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_EQ(window().focusWidget(), &rowOf(form.pages));
+}
+
+TEST_F(Keyboard, F6GoesToAPaletteAndBack) {
+  testing::TestForm palette(host, "frmTematicos");
+  calls.run([&] { palette.show(); });
+  hands::settle();
+  FormWindow& selector = *host.windowOf(palette);
+  QWidget& link = widget(form.menu);
+  window().activateWindow();
+  hands::settle();
+  ASSERT_EQ(QApplication::activeWindow(), &window());
+  link.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(nextPane(window(), &link, true)->window(), &selector);
+  QTest::keyClick(&link, Qt::Key_F6);
+  hands::settle();
+  EXPECT_EQ(QApplication::activeWindow(), &selector);
+  EXPECT_EQ(nextPane(selector, selector.focusWidget(), true), &rowOf(form.pages));
+  EXPECT_EQ(nextPane(selector, selector.focusWidget(), false), &link);
+  QTest::keyClick(selector.focusWidget(), Qt::Key_F6);
+  hands::settle();
+  EXPECT_EQ(QApplication::activeWindow(), &window());
+  EXPECT_EQ(window().focusWidget(), &rowOf(form.pages));
+}
+
+TEST_F(Keyboard, ControlAndTabTurnThePages) {
+  widget(form.drop).setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&widget(form.drop), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(form.take(), (Events{"pages move", "pages click 0"}));
+  EXPECT_EQ(window().focusWidget(), &rowOf(form.pages));
+  QTest::keyClick(&rowOf(form.pages), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(form.take(), (Events{"pages click 1"}));
+  QTest::keyClick(&rowOf(form.pages), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(form.pages.tab(), 1);  // around the end
 }
 
 TEST_F(Keyboard, ARingComesBackWithTheWindow) {

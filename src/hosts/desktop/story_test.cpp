@@ -2,23 +2,19 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPixmap>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <filesystem>
 #include <optional>
-#include <sstream>
 
 #include "atlas/shell/frm_inicio.h"
 #include "atlas/shell/frm_principal.h"
 #include "atlas/thematic/frm_tematicos.h"
 #include "hosts/desktop/desktop_program.h"
-#include "hosts/desktop/tour.h"
 #include "hosts/desktop/user_hands.h"
 #include "hosts/desktop/views/tab_row.h"
 #include "hosts/desktop/views/tool_button.h"
@@ -185,16 +181,6 @@ TEST_F(Story, AMissingWorkspaceIsSaidAndTheProgramGoesOn) {
   EXPECT_EQ(said, "No existe ningún mapa para los parámetros seleccionados");
   pick("CmbProvincias", "Ávalos");
   EXPECT_FALSE(program->isOver());
-}
-
-TEST_F(Story, TheTourGoesThroughAndLeavesItsPictures) {
-  QTemporaryDir pictures;
-  std::ostringstream log;
-  Tour tour(*program, pictures.path().toStdString(), log);
-  EXPECT_TRUE(tour.walk()) << log.str();
-  EXPECT_TRUE(program->isOver());
-  EXPECT_EQ(QDir(pictures.path()).entryList({"*.png"}).size(), 11);
-  EXPECT_FALSE(QPixmap(pictures.filePath("05-provincia.png")).isNull());
 }
 
 }  // namespace

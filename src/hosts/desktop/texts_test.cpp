@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileIconProvider>
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QPushButton>
 
 #include "atlas/mapengine/toolbars.h"
 #include "hosts/desktop/artwork.h"
 #include "hosts/desktop/looks.h"
-#include "hosts/desktop/page_text.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/indicator_tree.h"
@@ -50,13 +52,9 @@ TEST(Words, OfTheToolkitAreSpanish) {
   EXPECT_EQ(text(Box::Yes), "Sí");
   EXPECT_EQ(text(Box::No), "No");
   EXPECT_EQ(text(Box::Save), "Guardar");
+  EXPECT_EQ(QFileIconProvider().type(QFileInfo(QDir::tempPath())), "Carpeta");
   EXPECT_EQ(QLocale().language(), QLocale::Spanish);
   EXPECT_EQ(QString::number(1234.5), "1234.5");
-}
-
-TEST(PageText, ReadsBothEncodings) {
-  EXPECT_EQ(pageText("Población"), "Población");
-  EXPECT_EQ(pageText("Poblaci\xF3n \x80"), "Población €");
 }
 
 TEST(IndicatorText, SplitsAFigureFromTheEnd) {

@@ -1,5 +1,7 @@
 #include "hosts/desktop/window_placement.h"
 
+#include "hosts/desktop/twips.h"
+
 namespace desktop {
 namespace {
 
@@ -7,6 +9,7 @@ constexpr double kShareOfScreen = 0.92;
 constexpr QSize kSmallestWindow(1000, 680);
 constexpr QSize kUsualFrame(16, 40);  // more than most desktops put around a window
 constexpr double kSmallestScale = 0.5;
+constexpr int kPaletteMargin = 8;  // right of its controls and below them
 
 }  // namespace
 
@@ -23,6 +26,19 @@ QRect firstPlace(FormLook look, QSize stored, const QRect& screen) {
   if (look == FormLook::window) place.translate(-kUsualFrame.width() / 2, -kUsualFrame.height() / 2);
   place.moveTopLeft({qMax(place.left(), screen.left()), qMax(place.top(), screen.top())});
   return place;
+}
+
+QSize paletteSize(const forms::Form& palette) {
+  QRect controls;
+  for (const forms::Control* control : palette.controls()) {
+    if (control->container() == nullptr) controls |= pixelRect(*control);
+  }
+  return {controls.right() + 1 + kPaletteMargin, controls.bottom() + 1 + kPaletteMargin};
+}
+
+QPoint onScreen(QPoint wanted, QSize withFrame, const QRect& screen) {
+  const QPoint last(screen.right() + 1 - withFrame.width(), screen.bottom() + 1 - withFrame.height());
+  return {qMax(screen.left(), qMin(wanted.x(), last.x())), qMax(screen.top(), qMin(wanted.y(), last.y()))};
 }
 
 double scaleFor(QSize screen) {

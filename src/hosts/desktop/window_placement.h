@@ -3,6 +3,7 @@
 #include <QRect>
 #include <QSize>
 
+#include "forms/form.h"
 #include "hosts/desktop/looks.h"
 
 namespace desktop {
@@ -15,6 +16,14 @@ namespace desktop {
 // least the size it is stored with where there is room for that and a usual frame; the others have their stored size,
 // in the middle.
 [[nodiscard]] QRect firstPlace(FormLook look, QSize stored, const QRect& screen);
+
+// The size, without its frame, at which a palette ends a little beyond its controls: with its frame it is about as high
+// as it is stored, and what it lies in front of is covered no more than needed.
+[[nodiscard]] QSize paletteSize(const forms::Form& palette);
+
+// The place next to `wanted` at which a window with its frame is seen whole; its top left part where the screen is too
+// small.
+[[nodiscard]] QPoint onScreen(QPoint wanted, QSize withFrame, const QRect& screen);
 
 // How much smaller than usual all must be drawn for the working window to have room on the screen: 1 where it has, and
 // never so small that nothing can be read.

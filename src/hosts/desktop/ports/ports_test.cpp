@@ -66,7 +66,7 @@ class DesktopPorts : public ::testing::Test {
   motor::WidgetHandles handles;
   QtHost host{calls, handles};
   QtMessages messages{host};
-  QtDialogs dialogs{host, machine, programs};
+  QtDialogs dialogs{host, machine};
 };
 
 TEST_F(DesktopPorts, TheEngineIsInstalledAndAReaderWhereTheDesktopHasOne) {
@@ -106,22 +106,6 @@ TEST(CommandWords, QuotesHoldBlanks) {
   EXPECT_EQ(commandWords("a  b"), (Words{"a", "b"}));
   EXPECT_EQ(commandWords(" \"\" x"), (Words{"", "x"}));
   EXPECT_EQ(commandWords(""), Words{});
-}
-
-TEST_F(DesktopPorts, HelpOpensThePageInPlaceOfTheOlderFormat) {
-  QTemporaryDir folder;
-  QFile page(folder.filePath("Ayuda.html"));
-  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-  page.close();
-  dialogs.help(folder.path().toStdString() + "\\Ayuda.hlp", 3);
-  EXPECT_EQ(programs.opened, (Words{folder.filePath("Ayuda.html").toStdString()}));
-  EXPECT_EQ(failureOf([&] { dialogs.help(folder.path().toStdString() + "\\Otra.hlp", 3); }), failures::kFileNotFound);
-}
-
-TEST(ToolkitFilter, TurnsPairsIntoLines) {
-  EXPECT_EQ(toolkitFilter("Páginas web (*.html)|*.html"), "Páginas web (*.html)");
-  EXPECT_EQ(toolkitFilter("Web|*.html;*.htm|Todos|*.*"), "Web (*.html *.htm);;Todos (*.*)");
-  EXPECT_EQ(toolkitFilter(""), "");
 }
 
 struct MessageCase {

@@ -1,16 +1,38 @@
 #include "hosts/desktop/ports/qt_dialogs.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QStandardPaths>
+#include <utility>
 
+#include "hosts/desktop/pages/help_window.h"
 #include "platform/paths.h"
 #include "text/failure.h"
 #include "text/utf8.h"
 
 namespace desktop {
+namespace {
+
+// Where a file of that name is proposed: among the user's documents. What no file's name may hold becomes a hyphen.
+QString proposed(const std::string& name) {
+  QString file = QString::fromStdString(name);
+  file.replace(QLatin1Char('/'), QLatin1Char('-'));
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QDir(folder.isEmpty() ? QDir::homePath() : folder).filePath(file);
+}
+
+bool isPattern(const QString& text) { return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')); }
+
+}  // namespace
+
+QtDialogs::QtDialogs(QtHost& host, platform::Files& files) : host_(host), files_(files) {}
+
+QtDialogs::~QtDialogs() = default;
 
 std::string QtDialogs::save(const std::string& title, const std::string& filter, const std::string& name) {
-  const QString chosen = QFileDialog::getSaveFileName(host_.frontWindow(), QString::fromStdString(title),
-                                                      QString::fromStdString(name), toolkitFilter(filter));
+  const QString chosen =
+      QFileDialog::getSaveFileName(host_.frontWindow(), QString::fromStdString(title), proposed(name),
+                                   toolkitFilter(filter), nullptr, QFileDialog::DontConfirmOverwrite);
   return chosen.isEmpty() ? name : chosen.toStdString();
 }
 
@@ -19,16 +41,22 @@ void QtDialogs::help(const std::string& file, int /*command*/) {
   std::string page = file;
   if (text::lower(page).ends_with(kOlderFormat)) page = page.substr(0, page.size() - kOlderFormat.size()) + ".html";
   if (files_.lookUp(page).empty()) throw failures::fileNotFound();
-  if (!programs_.open(platform::machinePath(page).string())) throw failures::fileNotFound();
+  if (help_ == nullptr) {
+    const QString path = QString::fromStdString(platform::machinePath(page).string());
+    help_ = std::make_unique<pages::HelpWindow>(path, host_.frontWindow());
+  }
+  help_->showContents();
 }
 
 QString toolkitFilter(const std::string& filter) {
   const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
   QStringList lines;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-    const QString description = parts[i].left(parts[i].indexOf(QLatin1Char('('))).trimmed();
-    lines +=
-        QStringLiteral("%1 (%2)").arg(description, QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')));
+    QString description = parts[i];
+    QString patterns = parts[i + 1];
+    if (isPattern(description) && !isPattern(patterns)) std::swap(description, patterns);
+    description = description.left(description.indexOf(QLatin1Char('('))).trimmed();
+    lines += QStringLiteral("%1 (%2)").arg(description, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
   }
   return lines.join(QStringLiteral(";;"));
 }

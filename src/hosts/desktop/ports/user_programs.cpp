@@ -1,43 +1,32 @@
 #include "hosts/desktop/ports/user_programs.h"
 
 #include <QDesktopServices>
-#include <QFile>
-#include <QStandardPaths>
+#include <QProcess>
 #include <QUrl>
+
+#include "hosts/desktop/ports/desktop_entries.h"
 
 namespace desktop {
 namespace {
 
-// Where a desktop notes which program opens which kind of file: a line "application/pdf=some.desktop;".
-const QStringList kAssociationFiles{QStringLiteral("mimeapps.list"), QStringLiteral("mimeinfo.cache")};
-
-bool associates(const QString& path, const QByteArray& kind) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  while (!file.atEnd()) {
-    const QByteArray line = file.readLine().trimmed();
-    if (line.startsWith(kind + '=') && line.size() > kind.size() + 1) return true;
-  }
-  return false;
-}
-
-bool hasPdfReader() {
-  QStringList folders = QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation);
-  folders += QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
-  for (const QString& folder : folders) {
-    for (const QString& name : kAssociationFiles) {
-      if (associates(folder + QLatin1Char('/') + name, "application/pdf")) return true;
-    }
-  }
-  return false;
+QString kindOf(const QString& file) {
+  const bool isReport = file.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive);
+  return isReport ? QStringLiteral("application/pdf") : QStringLiteral("text/html");
 }
 
 }  // namespace
 
-bool UserPrograms::has(Stand stand) const { return stand != Stand::pdfReader || hasPdfReader(); }
+bool UserPrograms::has(Stand stand) const {
+  const QString anyReport = QStringLiteral("informe.pdf");
+  return stand != Stand::pdfReader || !commandToOpen(anyReport, kindOf(anyReport)).isEmpty();
+}
 
+// Where no choice can be read, the toolkit may know a way of its own.
 bool UserPrograms::open(const std::string& file) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
+  const QString path = QString::fromStdString(file);
+  const QStringList command = commandToOpen(path, kindOf(path));
+  if (!command.isEmpty() && QProcess::startDetached(command.first(), command.sliced(1))) return true;
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 }  // namespace desktop

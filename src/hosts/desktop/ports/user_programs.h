@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-// The user's own desktop.
+// The user's own desktop: what is said to be there is what then opens the document.
 class UserPrograms : public DesktopPrograms {
  public:
   [[nodiscard]] bool has(Stand stand) const override;

@@ -13,15 +13,32 @@ namespace {
 
 constexpr int kMostRows = 15;  // of an open list; the rest is scrolled to
 
-// Each pick may open a map: the wheel, which passes by, picks nothing. Enter opens the list, in which it picks.
+// Each pick may open a map: a wheel that only passes by picks nothing, one turned over the combo that has the keyboard
+// picks the next item, notch by notch. Enter opens the list, in which it picks.
 class Combo : public QComboBox {
  public:
-  using QComboBox::QComboBox;
+  explicit Combo(QWidget& parent) : QComboBox(&parent) { setFocusPolicy(Qt::StrongFocus); }
 
  protected:
-  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+  void wheelEvent(QWheelEvent* event) override {
+    if (!hasFocus()) return event->ignore();
+    event->accept();
+    turned_ += event->angleDelta().y();
+    const int notches = turned_ / kWheelNotch;
+    turned_ -= notches * kWheelNotch;
+    const int index = qBound(0, currentIndex() - notches, count() - 1);
+    if (notches == 0 || index == currentIndex() || (currentIndex() < 0 && notches > 0)) return;
+    setCurrentIndex(index);
+    emit activated(index);
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    turned_ = 0;
+    QComboBox::focusOutEvent(event);
+  }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return showPopup();
+    // A tab is no letter to look for.
+    if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) return event->ignore();
     QComboBox::keyPressEvent(event);
   }
   // With nothing chosen the place holder stands in the box, less strong than a choice.
@@ -46,14 +63,17 @@ class Combo : public QComboBox {
   }
 
  private:
+  static constexpr int kWheelNotch = 120;  // of a wheel event's angle
   static constexpr int kTextInset = 1;
   static constexpr int kPopupExtra = 36;  // scroll bar and margins
+
+  int turned_ = 0;  // less than a notch, for wheels that turn smoothly
 };
 
 }  // namespace
 
 ComboView::ComboView(forms::ItemList& list, QWidget& parent, ProgramCalls& calls)
-    : ControlView(list, calls), list_(list), combo_(new Combo(&parent)) {
+    : ControlView(list, calls), list_(list), combo_(new Combo(parent)) {
   combo_->setView(new QListView(combo_));  // the style sheet reaches its items
   combo_->setMaxVisibleItems(kMostRows);
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

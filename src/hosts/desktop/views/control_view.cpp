@@ -94,7 +94,9 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
       if (isKeyboardFocus(*static_cast<QFocusEvent*>(event)) && !calls_.isBusy() && control.MouseMove.hasHandlers()) {
         act([&control] { pointAt(control); });
       }
-      if (control.GotFocus.hasHandlers()) actWhenFree([&control] { control.userFocus(); });
+      if (control.GotFocus.hasHandlers() && !isReturningFocus(*static_cast<QFocusEvent*>(event))) {
+        actWhenFree([&control] { control.userFocus(); });
+      }
       break;
     default:
       break;

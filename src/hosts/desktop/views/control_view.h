@@ -33,8 +33,6 @@ class ControlView : public QObject {
   virtual void nodeAdded(const forms::Node& /*node*/) {}
   virtual void nodeExpanded(const forms::Node& /*node*/) {}
   virtual void navigated(const std::string& /*path*/) {}
-  // The program has done what the user asked for and waits for the next thing.
-  virtual void callReturned() {}
 
   // True for what a user must see while a long handler runs: its writes are painted at once.
   [[nodiscard]] virtual bool paintsAtOnce() const { return false; }
@@ -47,7 +45,6 @@ class ControlView : public QObject {
 
   // Tells the model what the user did; nothing when its form is not loaded.
   void act(const ProgramCalls::Action& action);
-  [[nodiscard]] bool isBusy() const { return calls_.isBusy(); }
   void actWhenFree(const ProgramCalls::Action& action);
 
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -62,12 +62,7 @@ bool FrameView::isVeil() const { return lookOf(frame_) == FrameLook::veil; }
 
 bool FrameView::paintsAtOnce() const { return isVeil(); }
 
-void FrameView::callReturned() {
-  if (isVeil()) widget()->hide();
-}
-
 void FrameView::sync(forms::Property property) {
-  if (property == forms::Property::Visible && isVeil()) return widget()->setVisible(frame_.visible() && isBusy());
   if (property != forms::Property::Caption) return ControlView::sync(property);
   if (auto* frame = dynamic_cast<FrameWidget*>(widget())) frame->setCaption(QString::fromStdString(frame_.caption()));
 }

@@ -6,12 +6,11 @@
 namespace desktop {
 
 // A frame: a pop-up card where it lies on the form and holds controls, a veil where it lies there empty, and else a
-// group. A veil is for waiting: one that a handler has left visible lifts when the handler has returned.
+// group.
 class FrameView : public ControlView {
  public:
   FrameView(forms::Frame& frame, QWidget& parent, ProgramCalls& calls);
   void sync(forms::Property property) override;
-  void callReturned() override;
   [[nodiscard]] bool paintsAtOnce() const override;
 
  private:

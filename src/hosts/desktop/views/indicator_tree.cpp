@@ -1,12 +1,16 @@
 #include "hosts/desktop/views/indicator_tree.h"
 
+#include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyledItemDelegate>
 
+#include "hosts/desktop/keyboard_focus.h"
 #include "hosts/desktop/theme.h"
+#include "hosts/desktop/views/context_menu.h"
 
 namespace desktop {
 namespace {
@@ -16,6 +20,7 @@ constexpr int kMargin = 4;      // beside the texts
 constexpr int kPadding = 3;     // above and below them
 constexpr int kGap = 10;        // between a text and its figure
 constexpr double kArrow = 3.5;  // half of a branch mark
+constexpr int kHintInset = 24;
 
 int depthOf(const QModelIndex& index) {
   int depth = 0;
@@ -75,6 +80,7 @@ class IndicatorDelegate : public QStyledItemDelegate {
 
   [[nodiscard]] static Layout layoutOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
     Layout layout{option.font, option.font, splitIndicator(index.data().toString())};
+    if (!layout.parts.figure.isEmpty()) layout.parts.text += QLatin1Char(':');
     const QVariant own = index.data(Qt::FontRole);
     if (own.isValid()) layout.font = own.value<QFont>();
     layout.figureFont.setBold(true);
@@ -123,10 +129,80 @@ IndicatorTree::IndicatorTree(QWidget& parent) : QTreeWidget(&parent) {
   setItemDelegate(new IndicatorDelegate(*this));
 }
 
+// A tree without nodes says how to fill it.
+void IndicatorTree::paintEvent(QPaintEvent* event) {
+  QTreeWidget::paintEvent(event);
+  if (topLevelItemCount() > 0) return;
+  QPainter painter(viewport());
+  painter.setFont(font());
+  painter.setPen(theme::kMuted);
+  const QRect inside = viewport()->rect().adjusted(kHintInset, kHintInset, -kHintInset, -kHintInset);
+  painter.drawText(inside, static_cast<int>(Qt::AlignHCenter) | static_cast<int>(Qt::AlignTop) | Qt::TextWordWrap,
+                   QStringLiteral("Elija un lugar en el mapa para ver aquí sus indicadores."));
+}
+
 // Another width breaks the texts elsewhere.
 void IndicatorTree::resizeEvent(QResizeEvent* event) {
   QTreeWidget::resizeEvent(event);
   scheduleDelayedItemsLayout();
+}
+
+// Who comes by the keyboard sees where he is.
+void IndicatorTree::focusInEvent(QFocusEvent* event) {
+  QTreeWidget::focusInEvent(event);
+  if (isKeyboardFocus(*event) && currentItem() != nullptr) currentItem()->setSelected(true);
+}
+
+void IndicatorTree::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) return askForCopy();
+  if (event->matches(QKeySequence::SelectAll)) return emit copyAllAsked();
+  QTreeWidgetItem* item = currentItem();
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      if (item != nullptr) item->setExpanded(!item->isExpanded());
+      return;
+    case Qt::Key_Asterisk:
+      if (item != nullptr) openBranch(*item, true);
+      return;
+    default:
+      QTreeWidget::keyPressEvent(event);
+  }
+}
+
+void IndicatorTree::askForCopy() {
+  const QList<QTreeWidgetItem*> chosen = selectedItems();
+  if (!chosen.isEmpty()) emit copyAsked(chosen.constFirst());
+}
+
+// Each branch by itself, so that each is told.
+void IndicatorTree::openBranch(QTreeWidgetItem& item, bool open) {
+  for (int i = 0; i < item.childCount(); ++i) openBranch(*item.child(i), open);
+  if (item.childCount() > 0) item.setExpanded(open);
+}
+
+void IndicatorTree::openAll(bool open) {
+  for (int i = 0; i < topLevelItemCount(); ++i) openBranch(*topLevelItem(i), open);
+}
+
+void IndicatorTree::contextMenuEvent(QContextMenuEvent* event) {
+  if (QTreeWidgetItem* item = itemFromIndex(menuItemOf(*this, *event))) setCurrentItem(item);
+  const bool anyNode = topLevelItemCount() > 0;
+  const bool isChosen = !selectedItems().isEmpty();
+  const bool isBranch = isChosen && currentItem() != nullptr && currentItem()->childCount() > 0;
+  const auto openCurrent = [this](bool open) {
+    if (QTreeWidgetItem* item = currentItem()) openBranch(*item, open);
+  };
+  popUpMenu(*this, menuPlace(*this, *event),
+            {{"&Copiar", [this] { askForCopy(); }, isChosen, QKeySequence::Copy},
+             {"Copiar &todo", [this] { emit copyAllAsked(); }, anyNode, QKeySequence::SelectAll},
+             {},
+             {"&Desplegar rama", [openCurrent] { openCurrent(true); }, isBranch, Qt::Key_Asterisk},
+             {"&Plegar rama", [openCurrent] { openCurrent(false); }, isBranch},
+             {},
+             {"D&esplegar todo", [this] { openAll(true); }, anyNode},
+             {"P&legar todo", [this] { openAll(false); }, anyNode}});
 }
 
 void IndicatorTree::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const {

@@ -4,7 +4,8 @@
 
 namespace desktop {
 
-// A list that tells of every pick of the user's: by the mouse, also of the row already chosen, and by the keyboard.
+// A list that tells of every pick of the user's: by the mouse, also of the row already chosen, and by the keyboard. A
+// double click is one pick. Its names can be copied.
 class PickList : public QListWidget {
   Q_OBJECT
 
@@ -21,8 +22,17 @@ class PickList : public QListWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  void copy(int row) const;
+  void copyAll() const;
+  [[nodiscard]] int chosenRow() const;
+
+  bool picks_ = false;  // the button that is down will pick what it is released on
   int rowHeight_ = 0;
   int border_ = 0;  // above and below the rows together
 };

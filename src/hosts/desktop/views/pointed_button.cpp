@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSinglePointEvent>
 
 namespace desktop {
@@ -65,6 +66,9 @@ void PointedButton::mouseMoveEvent(QMouseEvent* event) {
   setPointedAt(rect().contains(event->position().toPoint()));
   QAbstractButton::mouseMoveEvent(event);
 }
+
+// Who double-clicks a link does not want its document twice.
+void PointedButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void PointedButton::enterEvent(QEnterEvent* event) {
   setPointedAt(true);

@@ -6,8 +6,9 @@
 
 namespace desktop {
 
-// What the program's own buttons share: they light up under the pointer, Enter clicks them as the space bar does, the
-// arrow keys go to their neighbours, and a ring shows where the keyboard is once it has been used to get there.
+// What the program's own buttons share: they light up under the pointer, a double click is one click, Enter clicks them
+// as the space bar does, the arrow keys go to their neighbours, and a ring shows where the keyboard is once it has been
+// used to get there.
 class PointedButton : public QAbstractButton {
  public:
   explicit PointedButton(QWidget& parent);
@@ -19,6 +20,7 @@ class PointedButton : public QAbstractButton {
   // While the button is lit by the pointer: everything that tells that the pointer is elsewhere.
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;

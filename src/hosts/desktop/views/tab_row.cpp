@@ -94,14 +94,23 @@ void TabRow::paintSegment(QPainter& painter, int index) const {
 }
 
 // The chosen tab is painted before the program hears of it, since what it does may take a while.
-void TabRow::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const int index = tabAt(event->position().toPoint());
-  if (index < 0) return;
+void TabRow::pick(int index) {
   setCurrentIndex(index);
   repaint();
   emit picked(index);
 }
+
+void TabRow::turn(int steps) {
+  if (count() > 0) pick(((currentIndex() + steps) % count() + count()) % count());
+}
+
+void TabRow::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const int index = tabAt(event->position().toPoint());
+  if (index >= 0) pick(index);
+}
+
+void TabRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void TabRow::mouseMoveEvent(QMouseEvent* event) {
   hovered_ = tabAt(event->position().toPoint());
@@ -128,9 +137,7 @@ void TabRow::keyPressEvent(QKeyEvent* event) {
   const int before = currentIndex();
   QTabBar::keyPressEvent(event);
   const bool again = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (currentIndex() == before && !again) return;
-  repaint();
-  emit picked(currentIndex());
+  if (currentIndex() != before || again) pick(currentIndex());
 }
 
 // The wheel passes by; a tab may open a map.

@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// A row of tabs that tells of every pick of the user's, also of the tab already chosen.
+// A row of tabs that tells of every pick of the user's, also of the tab already chosen; a double click is one pick.
 class TabRow : public QTabBar {
   Q_OBJECT
 
@@ -19,6 +19,9 @@ class TabRow : public QTabBar {
   };
   TabRow(Look look, const std::vector<std::string>& captions, QWidget& parent);
 
+  // The user goes so many tabs on, or back; around the ends.
+  void turn(int steps);
+
  signals:
   void picked(int index);
 
@@ -27,6 +30,7 @@ class TabRow : public QTabBar {
   [[nodiscard]] QSize minimumTabSizeHint(int index) const override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -35,6 +39,7 @@ class TabRow : public QTabBar {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  void pick(int index);
   void paintPage(QPainter& painter, int index) const;
   void paintSegment(QPainter& painter, int index) const;
 

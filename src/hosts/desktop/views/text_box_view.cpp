@@ -1,10 +1,29 @@
 #include "hosts/desktop/views/text_box_view.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "hosts/desktop/views/notice.h"
 
 namespace desktop {
+namespace {
+
+// The arrow down leads on, to what has been found for the text.
+class Box : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Down) {
+      focusNextChild();
+    } else {
+      QLineEdit::keyPressEvent(event);
+    }
+  }
+};
+
+}  // namespace
 
 TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, ProgramCalls& calls)
     : ControlView(box, calls), box_(box) {
@@ -12,7 +31,7 @@ TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, ProgramCalls& cal
     adopt(new Notice(parent));
     return;
   }
-  auto* edit = new QLineEdit(&parent);
+  auto* edit = new Box(&parent);
   connect(edit, &QLineEdit::textEdited, this,
           [this](const QString& text) { act([&] { box_.userEdit(text.toStdString()); }); });
   adopt(edit);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hosts/desktop/theme.h"
+#include "hosts/desktop/views/copying.h"
 #include "hosts/desktop/views/indicator_tree.h"
 
 namespace desktop {
@@ -46,6 +47,11 @@ TreeViewView::TreeViewView(forms::TreeView& tree, QWidget& parent, ProgramCalls&
     : ControlView(tree, calls), tree_(tree), rows_(new IndicatorTree(parent)) {
   connect(rows_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { itemToggled(*item, true); });
   connect(rows_, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { itemToggled(*item, false); });
+  connect(rows_, &IndicatorTree::copyAsked, this, [this](QTreeWidgetItem* branch) {
+    const forms::Node* node = nodeOf(tree_, *rows_, *branch);
+    if (node != nullptr) copy(branchText(tree_, *node));
+  });
+  connect(rows_, &IndicatorTree::copyAllAsked, this, [this] { copy(treeText(tree_)); });
   adopt(rows_);
   for (const auto& root : tree.roots()) addWithChildren(*root);
 }
@@ -62,7 +68,6 @@ void TreeViewView::nodeAdded(const forms::Node& node) {
     rows_->addTopLevelItem(item);
   } else {
     parent->second->addChild(item);
-    openAgain(*node.parent(), *parent->second);
   }
   items_[&node] = item;
 }
@@ -81,27 +86,9 @@ void TreeViewView::addWithChildren(const forms::Node& node) {
 
 void TreeViewView::itemToggled(const QTreeWidgetItem& item, bool expanded) {
   forms::Node* node = nodeOf(tree_, *rows_, item);
-  if (node == nullptr) return;
-  node->userExpand(expanded);
-  if (expanded) {
-    openedByUser_.insert(textPathOf(*node));
-  } else {
-    openedByUser_.erase(textPathOf(*node));
-  }
+  if (node != nullptr) node->userExpand(expanded);
 }
 
-// A branch can be opened from its first child on.
-void TreeViewView::openAgain(forms::Node& node, QTreeWidgetItem& item) {
-  if (item.isExpanded() || !openedByUser_.contains(textPathOf(node))) return;
-  const QSignalBlocker quiet(rows_);
-  item.setExpanded(true);
-  node.userExpand(true);
-}
-
-TreeViewView::TextPath TreeViewView::textPathOf(const forms::Node& node) {
-  TextPath path;
-  for (const forms::Node* at = &node; at != nullptr; at = at->parent()) path.push_back(at->text());
-  return path;
-}
+void TreeViewView::copy(const CopiedText& rows) const { copyRows(*rows_, rows.text, rows.rows); }
 
 }  // namespace desktop

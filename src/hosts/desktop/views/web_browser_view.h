@@ -5,9 +5,11 @@
 #include "forms/web_browser.h"
 #include "hosts/desktop/views/control_view.h"
 
-class QTextBrowser;
-
 namespace desktop {
+
+namespace pages {
+class PageBrowser;
+}
 
 // Shows the pages of the study's tables.
 class WebBrowserView : public ControlView {
@@ -19,8 +21,7 @@ class WebBrowserView : public ControlView {
   [[nodiscard]] QString locationName() const;
 
  private:
-  forms::WebBrowser& browser_;
-  QTextBrowser* page_;
+  pages::PageBrowser* page_;
 };
 
 }  // namespace desktop

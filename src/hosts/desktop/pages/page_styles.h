@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include "hosts/desktop/pages/page_style.h"
+#include "hosts/desktop/pages/page_tree.h"
+#include "hosts/desktop/pages/style_sheet.h"
+
+namespace desktop::pages {
+
+// How the elements of a page look: by what they are, by their attributes, by the page's style sheets and by their own
+// style, the later over the earlier.
+class PageStyles {
+ public:
+  PageStyles();
+
+  // Takes in a style sheet of the page.
+  void add(QStringView css) { sheet_.add(css); }
+
+  // The style of an element that stands in one of the style `outer`.
+  [[nodiscard]] PageStyle styleOf(const Node& node, const PageStyle& outer);
+
+ private:
+  StyleSheet ownSheet_;  // what elements look like where the page says nothing
+  StyleSheet sheet_;
+  int declarationsLeft_;
+};
+
+// What the element's attributes say of its look, as declarations: `bgcolor`, `align`, `nowrap`, `<font size>` and the
+// like; of a cell also what its table's `border` and `cellpadding` say.
+[[nodiscard]] Declarations attributeDeclarations(const Node& node);
+
+}  // namespace desktop::pages

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QHash>
+
+#include "hosts/desktop/pages/flow_writer.h"
+#include "hosts/desktop/pages/page_styles.h"
+#include "hosts/desktop/pages/page_tree.h"
+
+namespace desktop::pages {
+
+struct TableGrid;
+struct GridCell;
+
+// Where on the page something is written.
+struct PagePlace {
+  double left = 0;  // pixels from the edges of the page or the cell
+  double right = 0;
+  QString link;           // that the text leads to, or empty
+  int cells = 0;          // that this stands in, one in the other
+  int boxes = 0;          // of them, those that are blocks with a frame
+  int* number = nullptr;  // of the last item of the list at hand
+};
+
+// The styles of cells: a table has many cells and few styles, and the toolkit is quicker when each is said once.
+class CellStyles {
+ public:
+  // The attribute of a cell that gives it this style; a blank before it.
+  [[nodiscard]] QString attributeFor(const QString& css);
+  // The style sheet that the attributes rely on.
+  [[nodiscard]] const QString& sheet() const { return sheet_; }
+
+ private:
+  QHash<QString, QString> classes_;
+  QString sheet_;
+};
+
+// Writes the elements of a page as markup, one after the other.
+class PageWriter {
+ public:
+  // Writes behind `html`; this and `styles` outlive the writer.
+  PageWriter(QString& html, PageStyles& styles, double zoom)
+      : html_(html), styles_(styles), zoom_(zoom), flow_(html, zoom) {}
+
+  // What an element holds.
+  void content(const Node& node, const PageStyle& style, const PagePlace& place);
+  void end() { flow_.endLine(); }
+  // Whether something had to be left out.
+  [[nodiscard]] bool isCut() const { return isCut_; }
+  // The style sheet that the page needs, for its head.
+  [[nodiscard]] const QString& sheet() const { return cellStyles_.sheet(); }
+
+ private:
+  void element(const Node& node, const PageStyle& outer, const PagePlace& place);
+  void inLine(const Node& node, PageStyle style, const PagePlace& place);
+  void block(const Node& node, const PageStyle& style, const PageStyle& outer, const PagePlace& place);
+  void blockContent(const Node& node, const PageStyle& style, const PagePlace& place);
+  void box(const Node& node, const PageStyle& style, const PagePlace& place);
+  void mark(const Node& item, const PageStyle& style, const PagePlace& place);
+  void picture(const Node& node, const PageStyle& style, const PagePlace& place);
+  void rule(const PageStyle& style, const PageStyle& outer, const PagePlace& place);
+  void frame(const Node& node, const PageStyle& style, const PageStyle& outer, const PagePlace& place);
+  void table(const Node& node, const PageStyle& style, const PageStyle& outer, const PagePlace& place);
+  void rows(const TableGrid& grid, const PagePlace& place);
+  void cell(const GridCell& cell, const Length& width, double least, const PagePlace& place);
+  void strut(double pixels);
+  void beginTable(const PageStyle& style, double left, const Length& width, double spacing);
+  void beginCell(const PageStyle& style, const QString& attributes, const PagePlace& place);
+
+  QString& html_;
+  PageStyles& styles_;
+  double zoom_;
+  FlowWriter flow_;
+  CellStyles cellStyles_;
+  bool isCut_ = false;
+};
+
+}  // namespace desktop::pages
