@@ -44,9 +44,12 @@ function(veldoria_folder name)
     add_executable(${name}_test ${tests})
     target_link_libraries(${name}_test PRIVATE ${library} veldoria_options GTest::gtest GTest::gtest_main
                                                ${ARG_TEST_LINKS})
+    veldoria_quickly_compiled(${name}_test)
     add_test(NAME ${name}_test COMMAND ${name}_test)
     set_tests_properties(${name}_test PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
-    if(NOT ARG_QT)
+    if(ARG_QT)
+      veldoria_sanitized_widgets(${name}_test)
+    else()
       veldoria_sanitized(${name}_test)
     endif()
   endif()
@@ -57,6 +60,11 @@ function(veldoria_folder name)
     target_link_libraries(${name}_bench PRIVATE ${library} veldoria_options benchmark::benchmark_main
                                                 ${ARG_BENCH_LINKS})
   endif()
+endfunction()
+
+# Compiled once and run for moments: what it tests is optimised, the test itself need not be.
+function(veldoria_quickly_compiled target)
+  target_compile_options(${target} PRIVATE -O0)
 endfunction()
 
 # Built by `headers`: each header of the current folder, compiled on its own, with what its tests may see.
@@ -75,6 +83,7 @@ function(veldoria_check_headers name glob)
   if(units)
     add_library(${name}_headers OBJECT EXCLUDE_FROM_ALL ${units})
     target_link_libraries(${name}_headers PRIVATE veldoria_${name} veldoria_options GTest::gtest ${ARGN})
+    veldoria_quickly_compiled(${name}_headers)
     add_dependencies(headers ${name}_headers)
   endif()
 endfunction()
@@ -84,6 +93,18 @@ add_custom_target(sanitized_tests)
 function(veldoria_sanitized test)
   add_dependencies(sanitized_tests ${test})
   set_tests_properties(${test} PROPERTIES LABELS sanitized)
+endfunction()
+
+# The same for a test with widgets, whose toolkit takes long to compile: `sanitized_widgets`, `ctest -L widgets`. What the
+# toolkit and the font library never give back is not counted.
+add_custom_target(sanitized_widgets)
+function(veldoria_sanitized_widgets test)
+  add_dependencies(sanitized_widgets ${test})
+  set_tests_properties(${test} PROPERTIES LABELS widgets)
+  if(VELDORIA_SANITIZE)
+    set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT
+                 "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/toolkit.supp:print_suppressions=0")
+  endif()
 endfunction()
 
 # veldoria_app(NAME LINKS <targets>): the program apps/NAME from apps/NAME/main.cpp.

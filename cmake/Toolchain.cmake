@@ -22,6 +22,8 @@ add_library(veldoria_options INTERFACE)
 target_compile_options(veldoria_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 target_include_directories(veldoria_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 if(VELDORIA_SANITIZE)
+  # Enough to name the line of a finding, and compiled in half the time.
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -gline-tables-only")
   target_compile_options(veldoria_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                     -fno-omit-frame-pointer)
   target_link_options(veldoria_options INTERFACE -fsanitize=address,undefined)

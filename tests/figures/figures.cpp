@@ -6,6 +6,7 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "atlas/shell/frm_principal.h"
 #include "consultation.h"
 #include "motor/session/headless_windows.h"
 #include "motor/session/session.h"
@@ -13,6 +14,7 @@
 #include "process_time.h"
 #include "ratio_reporter.h"
 #include "rivals.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -83,6 +85,45 @@ int readRows(sqlite3_stmt* statement) {
   sqlite3_reset(statement);
   return rows;
 }
+
+// The beginnings that a user types on the way to some of the zones, from the third letter on.
+std::vector<std::string> typedBeginnings(figures::HeadlessProgram& program) {
+  constexpr std::size_t kPlaces = 40;
+  std::vector<std::string> beginnings;
+  const auto& zones = program.atlas().frmPrincipal().CmbZonas.items();
+  for (std::size_t place = 0; place < kPlaces; ++place) {
+    const std::string& name = zones.at(place * zones.size() / kPlaces);
+    for (std::size_t letters = 3; letters <= 8; ++letters) beginnings.push_back(text::left(name, letters));
+  }
+  return beginnings;
+}
+
+void searchOfAPlace(benchmark::State& state) {
+  figures::HeadlessProgram program(study.string());
+  const std::vector<std::string> beginnings = typedBeginnings(program);
+  atlas::FrmPrincipal& form = program.atlas().frmPrincipal();
+  form.CmbBuscar.userPick(1);
+  std::size_t next = 0;
+  for (auto _ : state) {
+    form.txtBuscar.userEdit(beginnings[next++ % beginnings.size()]);
+    require(!form.ListaResultado.items().empty(), "the search found nothing");
+  }
+}
+BENCHMARK(searchOfAPlace)->Unit(benchmark::kMicrosecond);
+
+void sqliteSameSearch(benchmark::State& state) {
+  figures::HeadlessProgram program(study.string());
+  const std::vector<std::string> beginnings = typedBeginnings(program);
+  const figures::SqliteStudy sqlite(yearFolder(), kYear);
+  const auto search = sqlite.prepare("select nombre from ZonasBasicas where nombre like ? group by nombre");
+  std::size_t next = 0;
+  for (auto _ : state) {
+    const std::string pattern = beginnings[next++ % beginnings.size()] + "%";
+    sqlite3_bind_text(search.get(), 1, pattern.c_str(), -1, SQLITE_TRANSIENT);
+    require(readRows(search.get()) > 0, "the rival found nothing");
+  }
+}
+BENCHMARK(sqliteSameSearch)->Unit(benchmark::kMicrosecond);
 
 void sqliteSameRows(benchmark::State& state) {
   const figures::SqliteStudy sqlite(yearFolder(), kYear);
@@ -166,6 +207,8 @@ const std::vector<figures::Figure> kFigures = {
     {"Eval of a selection's column : one step of a prepared SQLite statement", "evalOfAColumn", "sqliteStep", 1.0 / 3},
     {"consultation of a province : the same rows from SQLite, indexed, in memory", "consultationOfAProvince",
      "sqliteSameRows", 5},
+    {"a letter typed into the search of a place : the same search by SQLite, indexed, in memory", "searchOfAPlace",
+     "sqliteSameSearch", 1},
     {"year map opened cold : its tables read with GDAL alone", "yearMapCold", "gdalAlone", 1.5},
     {"year map opened again : its tables read with GDAL alone", "yearMapAgain", "gdalAlone", 1.0 / 20},
     {"start to the first painted map, less the splash's wait : a bare Qt window with as many polygons",
@@ -189,6 +232,8 @@ int main(int argc, char** argv) {
   figures::RatioReporter reporter(kFigures);
   benchmark::RunSpecifiedBenchmarks(&reporter);
   std::cout << "\nmemory of the program with the year map open: "
-            << figures::reportedMegabytes({programs / "first_map", study, "memory"}) << " MB (goal: under 120)\n";
+            << figures::reportedNumber({programs / "first_map", study, "memory"}) << " MB (goal: under 120)\n";
+  std::cout << "slowest letter typed into the search of a place, to the list painted: "
+            << figures::reportedNumber({programs / "typing", study}) << " ms (goal: under 16)\n";
   return 0;
 }

@@ -34,6 +34,6 @@ double secondsOf(const std::vector<std::filesystem::path>& command) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-double reportedMegabytes(const std::vector<std::filesystem::path>& command) { return std::stod(outputOf(command)); }
+double reportedNumber(const std::vector<std::filesystem::path>& command) { return std::stod(outputOf(command)); }
 
 }  // namespace figures

@@ -10,6 +10,6 @@ namespace figures {
 [[nodiscard]] double secondsOf(const std::vector<std::filesystem::path>& command);
 
 // Runs such a program and reads the one number that it prints.
-[[nodiscard]] double reportedMegabytes(const std::vector<std::filesystem::path>& command);
+[[nodiscard]] double reportedNumber(const std::vector<std::filesystem::path>& command);
 
 }  // namespace figures

@@ -41,6 +41,7 @@ SqliteStudy::SqliteStudy(const std::filesystem::path& yearFolder, const std::str
   }
   run("create index p on Provincias(nombre)");
   run("create index z on ZonasBasicas(nombre)");
+  run("create index zn on ZonasBasicas(nombre collate nocase)");
   run("create index zp on ZonasBasicas(provincia, nombre)");
 }
 
