@@ -9,10 +9,10 @@
 #include "study/application_folder.h"
 #include "study/generator/generator.h"
 #include "study/input/read_input.h"
+#include "study/interruption.h"
 #include "study/model/study_error.h"
 #include "study/output/output_folder.h"
 #include "study/reports/offscreen_toolkit.h"
-#include "study/interruption.h"
 #include "study/temporary_folder.h"
 
 namespace study {

@@ -1,6 +1,11 @@
 #include "study/command_line.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <sstream>
 
 #include "study/output/test_folder.h"
 #include "study/testing_builds.h"
@@ -111,15 +116,67 @@ TEST(CommandLine, TellsItsProgress) {
   EXPECT_EQ(program.code, 0);
   EXPECT_EQ(program.err, "");
   std::size_t last = 0;
-  for (const char* step : {"figures of all units\n", "maps of 2002\n", "statistics map\n", "thematic maps\n",
-                           "tables\n", "documents\n", "moving the study to its place\n"}) {
+  for (const char* step :
+       {"Reading the settings", "Computing the figures of all units\n", "Making the maps of 2002\n",
+        "Making the statistics map\n", "Making the thematic maps of 2002\n", "Writing the statistical tables\n",
+        "Writing the documents\n", "Moving the study to its place\n"}) {
     const std::size_t at = program.out.find(step, last);
     ASSERT_NE(at, std::string::npos) << step << " is not in its place in\n" << program.out;
     last = at;
   }
   EXPECT_TRUE(
-      program.out.ends_with("done: 3 provinces, 9 basic health zones in " + (test.path() / "study").string() + "\n"))
+      program.out.ends_with("Done: 3 provinces, 9 basic health zones in " + (test.path() / "study").string() + "\n"))
       << program.out;
+}
+
+TEST(CommandLine, BuildsIntoNoInput) {
+  const TestFolder test;
+  const std::string input = (test.path() / "input").string();
+  ASSERT_EQ(generateSmall(input, "2002").code, 0);
+  const auto before = filesBelow(test.path());
+  for (const std::string& output : {input, input + "/study", test.path().string()}) {
+    const ProgramRun program = runStudy({"build", input, output});
+    EXPECT_EQ(program.code, 1) << output;
+    EXPECT_TRUE(program.err.starts_with("study: ")) << program.err;
+  }
+  EXPECT_TRUE(filesBelow(test.path()) == before);
+}
+
+// A program of its own, asked to end as soon as it has told of a step: nothing is left of what it had begun.
+TEST(CommandLine, EndsCleanlyWhenItIsAskedTo) {
+  const TestFolder test;
+  const std::string input = (test.path() / "input").string();
+  ASSERT_EQ(generateSmall(input, "2002").code, 0);
+  const auto before = filesBelow(test.path());
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    const pid_t child = fork();
+    if (child == 0) {
+      // Sends itself the signal in the middle of the longest step, as a terminal would.
+      class Asking : public std::stringbuf {
+       public:
+        explicit Asking(int number) : number_(number) {}
+        int sync() override {
+          if (str().find("Making the thematic maps") != std::string::npos) raise(number_);
+          return 0;
+        }
+
+       private:
+        int number_;
+      };
+      Asking buffer(signal);
+      std::ostream out(&buffer);
+      std::ostringstream err;
+      const std::vector<std::string> arguments{"build", input, (test.path() / "study").string()};
+      const int code = run(arguments, out, err);
+      _exit(err.str() == "study: interrupted; nothing was written\n" ? code : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 128 + signal);
+    EXPECT_TRUE(filesBelow(test.path()) == before);
+    EXPECT_FALSE(std::filesystem::exists(test.path() / "study"));
+  }
 }
 
 TEST(CommandLine, TellsOfInputThatIsNotThere) {

@@ -215,7 +215,8 @@ std::string Fingers::type(const atlas::Atlas& program) {
   const forms::Control* box = nullptr;
   if (onceIn(3)) box = control<forms::EditableCombo>(program);
   if (box == nullptr) box = control<forms::TextBox>(program);
-  return box == nullptr ? "" : "type " + nameOf(*box) + " " + forms::quoted(oneOf(kTexts));
+  if (box == nullptr) return "";
+  return (onceIn(4) ? "edit " : "type ") + nameOf(*box) + " " + forms::quoted(oneOf(kTexts));
 }
 
 std::string Fingers::focus(const atlas::Atlas& program) {
@@ -279,6 +280,8 @@ std::string Fingers::failEngine(const atlas::Atlas& /*program*/) {
 }
 
 std::string Fingers::failOther(const atlas::Atlas& /*program*/) {
+  constexpr std::array kKinds{Words("machine "), Words("windows "), Words("dialogs ")};
+  if (onceIn(4)) return "failcall " + oneOf(kKinds) + std::to_string(1 + below(8)) + failureWords();
   return "fail " + asWord(oneOf(kOtherCalls)) + failureWords();
 }
 

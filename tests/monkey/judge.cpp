@@ -77,7 +77,7 @@ const std::vector<Judge::Rule>& Judge::rules() {
       {"notices", &Judge::notices},   {"mode", &Judge::mode},         {"consultations", &Judge::consultations},
       {"topmost", &Judge::topmost},   {"selector", &Judge::selector}, {"tree", &Judge::tree},
       {"options", &Judge::options},   {"texts", &Judge::texts},       {"tables", &Judge::tables},
-      {"current unit", &Judge::unit},
+      {"current unit", &Judge::unit}, {"opened map", &Judge::opened},
   };
   return all;
 }
@@ -107,6 +107,20 @@ std::string Judge::engines(const Scene& scene) const {
     return std::to_string(scene.mapWindows) + " map windows are open, the engine knows " +
            std::to_string(scene.mapWindowsOfSession);
   }
+  return "";
+}
+
+// A map that was opened to the end is there, with its tool in the user's hand. The tables have none.
+std::string Judge::opened(const Scene& scene, const Main& main) {
+  const auto has = [&](const char* line) { return std::ranges::find(scene.effects, line) != scene.effects.end(); };
+  if (has("set ProgressBar1.Value 90") && !trouble_) {
+    if (scene.mapWindows != 1 || scene.program.callbackmapa == nullptr) return "it is not there";
+    if (main.Ficha.tab() != kTables && main.lblComando.caption() != "Comando actual: Información") {
+      return "another tool is chosen";
+    }
+  }
+  const bool hasTables = has("set Internet.Visible True");
+  if (hasTables && scene.program.motormapa != nullptr) return "it is still there beside the tables";
   return "";
 }
 

@@ -41,6 +41,7 @@ class Judge {
   [[nodiscard]] static const std::vector<Rule>& rules();
 
   [[nodiscard]] std::string engines(const Scene& scene) const;
+  std::string opened(const Scene& scene, const Main& main);
   std::string notices(const Scene& scene, const Main& main);
   std::string mode(const Scene& scene, const Main& main);
   std::string consultations(const Scene& scene, const Main& main);

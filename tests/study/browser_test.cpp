@@ -118,7 +118,8 @@ std::vector<fs::path> pagesBelow(const fs::path& folder) {
 TEST_F(Browser, SetsTablesWithoutAClippedCell) {
   for (const auto& [year, width] : {std::pair("1999", 800), std::pair("2002", 1200)}) {
     std::vector<fs::path> pages = pagesBelow(fs::path(scenarios::sampleStudy()) / "Tablas/HTML");
-    std::erase_if(pages, [&first = year](const fs::path& page) { return !page.filename().string().starts_with(first); });
+    std::erase_if(pages,
+                  [&first = year](const fs::path& page) { return !page.filename().string().starts_with(first); });
     ASSERT_EQ(pages.size(), 6U + 54U + 3U + 3U + 3U);
     const auto settings = shown(pages, width);
     for (const fs::path& page : pages) {

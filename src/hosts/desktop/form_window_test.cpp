@@ -201,10 +201,9 @@ TEST(FirstPlace, IsSeenWholeOnUsualScreens) {
     QRect screen;  // without the desktop's own bars
     QSize size;
   };
-  for (const Case& each :
-       {Case{{0, 0, 1024, 768}, {1008, 728}}, Case{{0, 0, 1024, 728}, {1008, 688}}, Case{{0, 0, 1280, 760}, {1178, 720}},
-        Case{{0, 27, 1440, 873}, {1325, 803}}, Case{{66, 27, 1854, 1053}, {1706, 969}},
-        Case{{0, 0, 2560, 1400}, {2355, 1288}}}) {
+  for (const Case& each : {Case{{0, 0, 1024, 768}, {1008, 728}}, Case{{0, 0, 1024, 728}, {1008, 688}},
+                           Case{{0, 0, 1280, 760}, {1178, 720}}, Case{{0, 27, 1440, 873}, {1325, 803}},
+                           Case{{66, 27, 1854, 1053}, {1706, 969}}, Case{{0, 0, 2560, 1400}, {2355, 1288}}}) {
     const QRect place = firstPlace(FormLook::window, {1024, 768}, each.screen);
     EXPECT_EQ(place.size(), each.size) << each.screen.width();
     EXPECT_TRUE(each.screen.contains(QRect(place.topLeft(), place.size() + QSize(16, 40)))) << each.screen.width();

@@ -59,8 +59,8 @@ void QtHost::formLoaded(forms::Form& form) {
 void QtHost::place(FormWindow& window) const {
   forms::Form& form = window.form();
   const QScreen* screen = QGuiApplication::primaryScreen();
-  const QSize stored = lookOf(form) == FormLook::palette ? paletteSize(form)
-                                                         : QSize(toPixels(form.width()), toPixels(form.height()));
+  const QSize stored =
+      lookOf(form) == FormLook::palette ? paletteSize(form) : QSize(toPixels(form.width()), toPixels(form.height()));
   QRect place =
       firstPlace(lookOf(form), stored, screen == nullptr ? QRect(QPoint(), stored) : screen->availableGeometry());
   if (firstSize_ && lookOf(form) == FormLook::window) {

@@ -26,7 +26,7 @@ void mustExist(const std::filesystem::path& file) {
 }  // namespace
 
 Tour::Tour(DesktopProgram& program, NotedPrograms& programs, std::filesystem::path pictures, std::ostream& log)
-    : program_(program), guide_(program, programs, std::move(pictures), log) {}
+    : program_(program), guide_(programs, std::move(pictures), log) {}
 
 bool Tour::walk() {
   try {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/desktop_program.h"
 #include "hosts/desktop/tour_guide.h"
 
 namespace desktop {

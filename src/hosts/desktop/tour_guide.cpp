@@ -52,9 +52,8 @@ bool NotedPrograms::open(const std::string& file) {
 
 std::vector<std::string> NotedPrograms::take() { return std::exchange(opened_, {}); }
 
-TourGuide::TourGuide(DesktopProgram& program, NotedPrograms& programs, std::filesystem::path pictures,
-                     std::ostream& log)
-    : program_(program), programs_(programs), pictures_(std::move(pictures)), log_(log) {
+TourGuide::TourGuide(NotedPrograms& programs, std::filesystem::path pictures, std::ostream& log)
+    : programs_(programs), pictures_(std::move(pictures)), log_(log) {
   QObject::connect(&dialogs_, &QTimer::timeout, &dialogs_, [this] { answerDialogs(); });
   dialogs_.start(kLookForDialogs);
   std::filesystem::remove(exported());

@@ -8,7 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "hosts/desktop/desktop_program.h"
+#include "hosts/desktop/form_window.h"
+#include "hosts/desktop/ports/known_programs.h"
 
 class QDialog;
 class QComboBox;
@@ -34,7 +35,7 @@ class NotedPrograms : public DesktopPrograms {
 class TourGuide {
  public:
   // Pictures go into `pictures`, which exists; what happens is written to `log`. All outlive the guide.
-  TourGuide(DesktopProgram& program, NotedPrograms& programs, std::filesystem::path pictures, std::ostream& log);
+  TourGuide(NotedPrograms& programs, std::filesystem::path pictures, std::ostream& log);
 
   // The window of a form, or a widget of one by its control's name, as it is seen.
   [[nodiscard]] FormWindow& window(const char* formName) const;
@@ -74,7 +75,6 @@ class TourGuide {
   void answer(QDialog& dialog);
   void write(const std::string& picture);
 
-  DesktopProgram& program_;
   NotedPrograms& programs_;
   std::filesystem::path pictures_;
   std::ostream& log_;

@@ -1,6 +1,7 @@
 #include "motor/window/map_picture.h"
 
 #include <QElapsedTimer>
+#include <cmath>
 
 #include "motor/drawing/map_view.h"
 
@@ -26,7 +27,11 @@ void MapPicture::render(const Map& map, const Key& key, Quality quality, const Q
   quality_ = quality;
   shown_ = MapView(map, key.size).toMap(QRectF(QPointF(0, 0), QSizeF(key.size)));
   const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-  (quality == Quality::best ? bestMilliseconds_ : fastMilliseconds_) = milliseconds;
+  if (quality == Quality::best) {
+    bestMilliseconds_ = milliseconds;
+  } else if (bestMilliseconds_ > 0) {
+    fastShare_ = milliseconds / bestMilliseconds_;
+  }
   ++renderCount_;
 }
 
@@ -41,7 +46,7 @@ std::vector<PaintedText> MapPicture::texts(const Map& map, const Key& key, const
 
 std::optional<Quality> MapPicture::qualityForMoving() const {
   if (bestMilliseconds_ <= kFrameMilliseconds) return Quality::best;
-  if (fastMilliseconds_ <= kFrameMilliseconds) return Quality::fast;
+  if (bestMilliseconds_ * fastShare_ <= kFrameMilliseconds) return Quality::fast;
   return std::nullopt;
 }
 
@@ -53,7 +58,14 @@ bool MapPicture::covers(const Map& map, QSizeF size) const {
 }
 
 void MapPicture::paint(QPainter& painter, const Map& map, QSizeF size) const {
+  constexpr double kSame = 1e-3;  // pixels
   const QRectF place = MapView(map, size).toPixels(shown_);
+  const QSizeF other = place.size() - size;
+  // What only rounding has moved is copied, not scaled.
+  if (std::abs(other.width()) + std::abs(other.height()) + std::abs(place.x()) + std::abs(place.y()) < kSame) {
+    painter.drawImage(QPointF(0, 0), image_);
+    return;
+  }
   if (place.size() != size) painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawImage(place, image_);
 }

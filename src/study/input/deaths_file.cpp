@@ -50,8 +50,8 @@ class Reader {
   // Whether all persons could be entered: otherwise those that are missing are told of already.
   static bool isSound(const FaultLog& log) {
     using enum FaultKind;
-    const std::array kinds{missingFile,    fieldCount,       unclosedQuote,  misplacedQuote,  notANumber,
-                           negativeNumber, fractionalNumber, tooLargeNumber, unknownZone,     unknownSex,
+    const std::array kinds{missingFile,    fieldCount,       unclosedQuote,   misplacedQuote,    notANumber,
+                           negativeNumber, fractionalNumber, tooLargeNumber,  unknownZone,       unknownSex,
                            unknownYear,    unknownAgeGroup,  missingAgeGroup, missingPopulation, zoneWithoutPopulation};
     return std::none_of(kinds.begin(), kinds.end(), [&](FaultKind kind) { return log.count(kind) > 0; });
   }

@@ -20,8 +20,8 @@ struct Fault {
   bool operator==(const Fault&) const = default;
 };
 
-// The input cannot be made into a study. what() lists at most kPrinted faults, a line each, and tells how many more there
-// are.
+// The input cannot be made into a study. what() lists at most kPrinted faults, a line each, and tells how many more
+// there are.
 class InputFaults : public StudyError {
  public:
   static constexpr std::size_t kPrinted = 50;

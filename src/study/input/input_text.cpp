@@ -90,8 +90,8 @@ std::optional<std::string> readText(const std::filesystem::path& folder, const F
   }
   if (text->starts_with("\xEF\xBB\xBF")) text->erase(0, 3);
   if (const auto malformed = firstMalformed(*text)) {
-    faults.add(FaultKind::notUtf8, lineEnds(std::string_view(*text).substr(0, *malformed)) + 1,
-               "the text is not UTF-8", "save the file with the encoding UTF-8");
+    faults.add(FaultKind::notUtf8, lineEnds(std::string_view(*text).substr(0, *malformed)) + 1, "the text is not UTF-8",
+               "save the file with the encoding UTF-8");
     return std::nullopt;
   }
   return text;

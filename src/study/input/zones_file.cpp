@@ -196,9 +196,10 @@ class Reader {
       return false;
     }
     if (!utmZone_ || degreesFromMeridian(degrees, *utmZone_) <= kFarthest) return true;
-    faults_.add(FaultKind::wrongPlace, 0,
-                place + "too far from UTM zone " + std::to_string(std::abs(*utmZone_)) + ", which the settings name",
-                "correct \"utm_zone\" in study.toml, or leave it out; let eastings or longitudes come first in the map");
+    faults_.add(
+        FaultKind::wrongPlace, 0,
+        place + "too far from UTM zone " + std::to_string(std::abs(*utmZone_)) + ", which the settings name",
+        "correct \"utm_zone\" in study.toml, or leave it out; let eastings or longitudes come first in the map");
     return false;
   }
 

@@ -82,7 +82,8 @@ TEST(ZonesFile, FaultsOfNamesAreTold) {
       {"firm blank at the end",
        nava,
        zoneText("Nava\u00A0", "Ribera"),
-       {file + "the zone \"Nava\u00A0\" begins or ends in a blank, or ends in a dot; leave out what is there too much"}},
+       {file +
+        "the zone \"Nava\u00A0\" begins or ends in a blank, or ends in a dot; leave out what is there too much"}},
       {"device",
        nava,
        zoneText("Nava", "Con"),
@@ -220,9 +221,9 @@ TEST(ZonesFile, FaultsOfLayersAreTold) {
 }
 
 void setSystem(TestInput& input, const std::string& system) {
-  input.replace("zones.geojson", "\"FeatureCollection\", ",
-                R"("FeatureCollection", "crs": {"type": "name", "properties": {"name": "urn:ogc:def:crs:)" + system +
-                    "\"}}, ");
+  input.replace(
+      "zones.geojson", "\"FeatureCollection\", ",
+      R"("FeatureCollection", "crs": {"type": "name", "properties": {"name": "urn:ogc:def:crs:)" + system + "\"}}, ");
 }
 
 TEST(ZonesFile, MapsInTheWrongPlaceAreTold) {

@@ -25,9 +25,8 @@ Study randomStudy(unsigned seed) {
   study.standard = {"", {3, 2, 1}};
   study.causes.codes = {"C18", "C34", "I21"};
   const std::string broad(kBroadGroups);
-  study.causes.published = {{"", broad, "Tumores", {0, 1}},
-                            {"", broad, "Circulatorio", {2}},
-                            {"", std::string(kReducedList), "Colon", {0}}};
+  study.causes.published = {
+      {"", broad, "Tumores", {0, 1}}, {"", broad, "Circulatorio", {2}}, {"", std::string(kReducedList), "Colon", {0}}};
   study.provinces = {"A", "B", "C"};
   study.counts.emplace_back();
   for (std::size_t zone = 0; zone < 6; ++zone) {

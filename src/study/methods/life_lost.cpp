@@ -47,8 +47,8 @@ double yearsOfLifeLost(const ByAge& deaths, const std::vector<AgeGroup>& ages, d
   return years;
 }
 
-std::optional<double> yearsOfLifeLostRate(const ByAge& deaths, const ByAge& persons,
-                                          const std::vector<AgeGroup>& ages, double before) {
+std::optional<double> yearsOfLifeLostRate(const ByAge& deaths, const ByAge& persons, const std::vector<AgeGroup>& ages,
+                                          double before) {
   const double below = personsBelow(persons, ages, before);
   if (below <= 0) return std::nullopt;
   return yearsOfLifeLost(deaths, ages, before) / below * kRatePer;

@@ -42,9 +42,9 @@ double groundSquareMetres(const Ring& ring, double falseNorthing) {
     const Point& a = ring[i];
     const Point& b = ring[(i + 1) % ring.size()];
     const Point middle{(a.x + b.x) / 2, (a.y + b.y) / 2};
-    sum += (groundEasting(a, falseNorthing) + 4 * groundEasting(middle, falseNorthing) +
-            groundEasting(b, falseNorthing)) /
-           6 * (b.y - a.y);
+    sum +=
+        (groundEasting(a, falseNorthing) + 4 * groundEasting(middle, falseNorthing) + groundEasting(b, falseNorthing)) /
+        6 * (b.y - a.y);
   }
   return sum;
 }

@@ -24,10 +24,14 @@ double landBetween(double south, double north, double degreesOfLongitude) {
 // Corners in UTM zone 30 (its meridian is 3 W), as PROJ 9 gives them.
 TEST(GroundArea, IsThatOfTheEllipsoid) {
   // 3.3 W to 3.2 W, 40 N to 40.05 N.
-  const Area near{{{474392.0696, 4427800.3123}, {482928.0540, 4427776.3714}, {482940.5123, 4433325.9123},
+  const Area near{{{474392.0696, 4427800.3123},
+                   {482928.0540, 4427776.3714},
+                   {482940.5123, 4433325.9123},
                    {474410.7572, 4433349.8606}}};
   // 4 E to 4.1 E, seven degrees from the meridian.
-  const Area far{{{1097776.6670, 4451293.4372}, {1106323.8018, 4451972.9061}, {1105878.6534, 4457529.7640},
+  const Area far{{{1097776.6670, 4451293.4372},
+                  {1106323.8018, 4451972.9061},
+                  {1105878.6534, 4457529.7640},
                   {1097337.8679, 4456850.0941}}};
   EXPECT_NEAR(groundSquareMetres(far, 30) / landBetween(40, 40.05, 0.1), 1, 1e-6);
   EXPECT_GT(squareMetres(far) / groundSquareMetres(far, 30), 1.008);

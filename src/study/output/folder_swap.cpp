@@ -62,8 +62,7 @@ void FolderSwap::begin() const {
   }
   out.close();
   if (!out) {
-    throw fs::filesystem_error("the journal cannot be written", unfinished,
-                               std::make_error_code(std::errc::io_error));
+    throw fs::filesystem_error("the journal cannot be written", unfinished, std::make_error_code(std::errc::io_error));
   }
   fs::rename(unfinished, journal_);
 }

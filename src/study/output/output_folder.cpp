@@ -213,7 +213,8 @@ std::string OutputFolder::whyFull() const {
   const fs::space_info space = fs::space(output_, error);
   if (error || space.available >= kFullBelow) return {};
   constexpr std::uintmax_t kMegabyte = 1'000'000;
-  return "the disk of " + output_.string() + " is full: " + std::to_string((bytesBelow(draft_) + kMegabyte / 2) / kMegabyte) +
+  return "the disk of " + output_.string() +
+         " is full: " + std::to_string((bytesBelow(draft_) + kMegabyte / 2) / kMegabyte) +
          " MB were written when there was no room left; make room for several times as much, for the earlier study "
          "stays until the new one is complete";
 }

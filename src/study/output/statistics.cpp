@@ -81,7 +81,8 @@ class Sheet {
     }
     const auto first = static_cast<double>(total(years_.front().persons));
     const auto last = static_cast<double>(total(years_.back().persons));
-    if (first > 0 && years_.size() > 1) put(kPopulation, "Variación " + first_ + "-" + last_ + " (%)", (last / first - 1) * 100);
+    if (first > 0 && years_.size() > 1)
+      put(kPopulation, "Variación " + first_ + "-" + last_ + " (%)", (last / first - 1) * 100);
   }
 
   // Persons in the groups that begin within these years of age.

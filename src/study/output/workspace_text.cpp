@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "study/model/study_error.h"
-#include "study/output/palette.h"
 #include "study/model/windows1252.h"
+#include "study/output/palette.h"
 
 namespace study {
 

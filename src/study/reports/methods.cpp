@@ -63,7 +63,8 @@ void addMethods(Flow& flow, const ReportData& data) {
   flow.subsection("Mapas", 40);
   flow.paragraphs(
       "Las clases son los quintiles, con límites redondeados, de las tasas mayores que 0 de todos los años, en los que "
-      "hombres, mujeres y ambos sexos pesan lo mismo; las tasas que son 0 están en la primera clase. Son las mismas para "
+      "hombres, mujeres y ambos sexos pesan lo mismo; las tasas que son 0 están en la primera clase. Son las mismas "
+      "para "
       "todos los años y sexos, como en los mapas temáticos de la aplicación, para que los mapas se puedan comparar.");
   if (study.texts.methodology.text.empty()) return;
   const std::string& title = study.texts.methodology.title;

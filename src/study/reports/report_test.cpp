@@ -7,7 +7,9 @@
 #include <iterator>
 #include <thread>
 
+#include "study/model/indicators.h"
 #include "study/model/study_error.h"
+#include "study/reports/report_data.h"
 #include "study/reports/report_pages.h"
 #include "study/reports/sections.h"
 #include "study/reports/test_pages.h"
@@ -62,6 +64,30 @@ TEST(Report, HasAllSections) {
     EXPECT_TRUE(hasText(pages, text)) << text;
   }
   EXPECT_FALSE(hasText(pages, "fictici")) << "only a study says so of itself";
+}
+
+// The report's cells and its maps hide what the study's maps hide, and one number more would give another away.
+TEST(Report, HidesWhatTheMapsHide) {
+  Study study = testStudy({.persons = 12});
+  study.suppressBelow = 15;
+  const FigureBook book(study);
+  const ReportData data(study, book, 0);
+  std::size_t hidden = 0;
+  for (const UnitKind kind : {UnitKind::region, UnitKind::province, UnitKind::zone}) {
+    for (const Unit unit : study.units(kind)) {
+      for (const SexChoice& sex : kSexChoices) {
+        const bool isHidden = book.isSuppressed(0, unit, sex.name, kStandardisedRateIndicator);
+        EXPECT_EQ(!data.deaths({unit, sex}), isHidden) << study.name(unit) << sex.name;
+        EXPECT_EQ(!data.standardised({unit, sex}), isHidden) << study.name(unit) << sex.name;
+        hidden += isHidden ? 1U : 0U;
+      }
+    }
+  }
+  EXPECT_GT(hidden, 0U);
+  const std::vector<Page> pages = reportPages(study, book, 0);
+  expectInOrder(pages);
+  EXPECT_TRUE(hasText(pages, "sin datos"));
+  EXPECT_TRUE(hasText(pages, "(s) Cifra que no se publica"));
 }
 
 TEST(Report, TakesTheStudysOwnTexts) {

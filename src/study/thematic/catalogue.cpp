@@ -84,8 +84,8 @@ class CatalogueWriter {
     const fs::path path = tables_ / basePath(study_, map);
     if (!written_.insert(path).second) return;
     fs::create_directories(path.parent_path());
-    TableWriter table(path.parent_path(), ::text::fromPath(path.filename()), {{"Nombre", Column::Type::text, nameWidth(study_)}},
-                      projection_);
+    TableWriter table(path.parent_path(), ::text::fromPath(path.filename()),
+                      {{"Nombre", Column::Type::text, nameWidth(study_)}}, projection_);
     for (const Unit unit : unitsOf(study_, map)) table.add({study_.name(unit)}, objects_.of(unit));
     table.close();
   }
@@ -105,7 +105,8 @@ void writeCatalogue(const Study& study, const FigureBook& book, const fs::path& 
   CatalogueWriter writer(study, book, tables);
   std::size_t year = study.years.size();
   for (const ThematicMap& map : thematicMaps(study)) {
-    if (progress) progress(map.year == year ? "" : "Making the thematic maps of " + std::to_string(study.years[map.year]));
+    if (progress)
+      progress(map.year == year ? "" : "Making the thematic maps of " + std::to_string(study.years[map.year]));
     year = map.year;
     writer.write(map);
   }

@@ -85,7 +85,8 @@ std::vector<double> classLimits(const std::vector<std::vector<double>>& groups, 
     limits.push_back(multiple(std::round(raw[i] / step), step));
   }
   // The ends, which no legend shows, lie a readable step beyond the values.
-  const double gap = raw.size() > 2 ? std::max(raw[1] - least, most - raw[raw.size() - 2]) : std::max(most - least, most);
+  const double gap =
+      raw.size() > 2 ? std::max(raw[1] - least, most - raw[raw.size() - 2]) : std::max(most - least, most);
   const double step = readableStep(gap / 2);
   const double start = multiple(std::floor(least / step), step);
   if (!limits.empty() && limits.front() <= start) limits.erase(limits.begin());

@@ -15,7 +15,8 @@ inline constexpr std::string_view kBaseTable = "SinDatos";
 // The workspace of a thematic map, in UTF-8 with plain line ends. From the top down its layers are: the provinces'
 // outlines, where zones of several provinces are shown; the theme; the map's own table, which it opens first; and all
 // units in grey, which show where there is no figure and cannot be selected. Where units of a map of counts have no
-// figure (`isComplete` is false), a theme of its own over the grey units says so in the legend; maps of rates always do.
+// figure (`isComplete` is false), a theme of its own over the grey units says so in the legend; maps of rates always
+// do.
 //
 // The outlines have to lie above the fills of the zones. The program puts the labels of layer 2 back when it leaves a
 // thematic map: there that is the theme, which has none; the map is closed with it.

@@ -89,7 +89,8 @@ TEST_F(ThematicWorkspaces, CountsThatLackFiguresSaySo) {
   expectPart(map, "  Layer 4\n    Display On\n    Shades On");
   expectPart(map, "      \"\" Display Off ,\n      \"sin datos\" Display On\n");
   EXPECT_EQ(text({}, UnitKind::zone, kCrudeRateIndicator, "Hombres", false),
-            text({}, UnitKind::zone, kCrudeRateIndicator, "Hombres")) << "rates always say so";
+            text({}, UnitKind::zone, kCrudeRateIndicator, "Hombres"))
+      << "rates always say so";
 }
 
 TEST_F(ThematicWorkspaces, LimitsAreTheSameForAllSexes) {

@@ -15,6 +15,7 @@ struct Length {
   [[nodiscard]] bool isPixels() const { return unit == Unit::pixels; }
   // The pixels, where it is so many of them or a part of `whole`; otherwise 0.
   [[nodiscard]] double pixels(double whole = 0) const;
+  bool operator==(const Length&) const = default;
 };
 
 // The largest length that a page may ask for, in pixels; longer ones are cut to it.

@@ -234,8 +234,9 @@ QString FlowWriter::paragraphStart() {
   const auto cell = std::exchange(cell_, std::nullopt);
   const bool isPlain = gap_ <= 0 && left_ <= 0 && right_ <= 0 && block_.textIndent == 0 && bullet_ == ListMark::none &&
                        number_.isEmpty();
-  if (cell && isPlain && cell->align == block_.align &&
-      blockCss(*cell, Around::styles) == blockCss(block_, Around::styles)) {
+  const bool isAlike = cell && cell->align == block_.align && cell->whiteSpace == block_.whiteSpace &&
+                       cell->lineHeight == block_.lineHeight;
+  if (isAlike && isPlain) {
     base_ = cell->text;
     closing_.clear();
     return {};

@@ -71,6 +71,7 @@ struct PageStyle {
   // What an element in this one begins with.
   [[nodiscard]] PageStyle handedOn() const;
   [[nodiscard]] bool hasBorder() const;
+  bool operator==(const PageStyle&) const = default;
 };
 
 }  // namespace desktop::pages

@@ -55,8 +55,10 @@ PageText readPage(const QByteArray& bytes, double zoom, const SheetReader& sheet
   writer.content(tree.body(), body, {});
   writer.end();
   page.isCut = tree.isCut || writer.isCut() || bytes.size() > kMostPageBytes;
-  page.html = QLatin1String("<html><head><title>") + escaped(page.title) + QLatin1String("</title><style>") +
-              writer.sheet() + QLatin1String("</style></head><body>") + content;
+  const QString sheet =
+      writer.sheet().isEmpty() ? QString() : QLatin1String("<style>") + writer.sheet() + QLatin1String("</style>");
+  page.html = QLatin1String("<html><head><title>") + escaped(page.title) + QLatin1String("</title>") + sheet +
+              QLatin1String("</head><body>") + content;
   if (page.isCut) page.html += QString::fromUtf8(kCutNote);
   page.html += QLatin1String("</body></html>");
   return page;

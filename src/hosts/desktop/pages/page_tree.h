@@ -25,8 +25,8 @@ struct Node {
 
 // How much of a page is taken in: beyond it the toolkit would keep the user waiting.
 struct TreeLimits {
-  std::size_t nodes = 250'000;
-  std::size_t cells = 60'000;
+  std::size_t nodes = 400'000;
+  std::size_t cells = 120'000;
   qsizetype characters = 4'000'000;  // of its texts
   std::size_t depth = 80;            // elements in elements; tags further in are as if they were not there
   int tables = 4;                    // tables in tables; the cells of those further in are blocks

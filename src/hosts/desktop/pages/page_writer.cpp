@@ -40,17 +40,6 @@ QString attribute(const char* name, const QString& value) {
 
 }  // namespace
 
-QString CellStyles::attributeFor(const QString& css) {
-  constexpr qsizetype kMostClasses = 40;  // with more of them the toolkit would look for them longer
-  auto known = classes_.find(css);
-  if (known == classes_.end()) {
-    if (classes_.size() == kMostClasses) return attribute("style", css);
-    known = classes_.insert(css, QStringLiteral("c%1").arg(classes_.size()));
-    sheet_ += QLatin1String("td.") + *known + u'{' + css + QLatin1String("}\n");
-  }
-  return attribute("class", *known);
-}
-
 void PageWriter::content(const Node& node, const PageStyle& style, const PagePlace& place) {
   for (const auto& child : node.children) {
     if (child->tag == Tag::text) {
@@ -275,8 +264,7 @@ void PageWriter::beginTable(const PageStyle& style, double left, const Length& w
 
 void PageWriter::beginCell(const PageStyle& style, const QString& attributes, const PagePlace& place) {
   const Around around = place.cells > 0 ? Around::styles : Around::nothing;
-  const QString css = cellCss(style, zoom_) + blockCss(style, around) + textCss(style.text, around, zoom_);
-  html_ += QLatin1String("<td") + blockAttribute(style) + attributes + cellStyles_.attributeFor(css) + u'>';
+  html_ += QLatin1String("<td") + attributes + cellStyles_.attributesFor(style, around) + u'>';
   flow_.beginCell(style);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QHash>
-
+#include "hosts/desktop/pages/cell_styles.h"
 #include "hosts/desktop/pages/flow_writer.h"
 #include "hosts/desktop/pages/page_styles.h"
 #include "hosts/desktop/pages/page_tree.h"
@@ -21,25 +20,12 @@ struct PagePlace {
   int* number = nullptr;  // of the last item of the list at hand
 };
 
-// The styles of cells: a table has many cells and few styles, and the toolkit is quicker when each is said once.
-class CellStyles {
- public:
-  // The attribute of a cell that gives it this style; a blank before it.
-  [[nodiscard]] QString attributeFor(const QString& css);
-  // The style sheet that the attributes rely on.
-  [[nodiscard]] const QString& sheet() const { return sheet_; }
-
- private:
-  QHash<QString, QString> classes_;
-  QString sheet_;
-};
-
 // Writes the elements of a page as markup, one after the other.
 class PageWriter {
  public:
   // Writes behind `html`; this and `styles` outlive the writer.
   PageWriter(QString& html, PageStyles& styles, double zoom)
-      : html_(html), styles_(styles), zoom_(zoom), flow_(html, zoom) {}
+      : html_(html), styles_(styles), zoom_(zoom), flow_(html, zoom), cellStyles_(zoom) {}
 
   // What an element holds.
   void content(const Node& node, const PageStyle& style, const PagePlace& place);

@@ -13,12 +13,13 @@
 namespace desktop {
 namespace {
 
-// Where a file of that name is proposed: among the user's documents. What no file's name may hold becomes a hyphen.
+// Where a file of that name is proposed: among the user's documents, or at home where there is no folder for them. What
+// no file's name may hold becomes a hyphen.
 QString proposed(const std::string& name) {
   QString file = QString::fromStdString(name);
   file.replace(QLatin1Char('/'), QLatin1Char('-'));
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return QDir(folder.isEmpty() ? QDir::homePath() : folder).filePath(file);
+  return QDir(QDir(folder).exists() && !folder.isEmpty() ? folder : QDir::homePath()).filePath(file);
 }
 
 bool isPattern(const QString& text) { return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')); }

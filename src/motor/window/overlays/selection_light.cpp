@@ -78,7 +78,7 @@ void SelectionLight::paint(QPainter& painter, const MapWindow& window, const Map
     mark(marksPainter, path);
     shown_ = shown;
   }
-  painter.drawImage(view.toPixels(shown_), marks_);
+  shown == shown_ ? painter.drawImage(QPointF(0, 0), marks_) : painter.drawImage(view.toPixels(shown_), marks_);
 }
 
 }  // namespace motor
