@@ -40,7 +40,8 @@ Widget& shown(const char* name) {
 std::vector<QString> places(const forms::ItemList& zones) {
   std::vector<QString> names;
   for (int i = 0; i < kPlaces; ++i) {
-    names.push_back(QString::fromStdString(zones.items().at(static_cast<std::size_t>(i) * zones.items().size() / kPlaces)));
+    names.push_back(
+        QString::fromStdString(zones.items().at(static_cast<std::size_t>(i) * zones.items().size() / kPlaces)));
   }
   return names;
 }

@@ -18,7 +18,7 @@ QSize smallestSize(FormLook look) { return look == FormLook::window ? kSmallestW
 QRect firstPlace(FormLook look, QSize stored, const QRect& screen) {
   QSize size = stored;
   if (look == FormLook::window) {
-    size = stored.expandedTo(screen.size() * kShareOfScreen);
+    size = stored.expandedTo(screen.size() * kShareOfScreen).boundedTo(screen.size() - kUsualFrame);
     size = size.expandedTo(kSmallestWindow);
   }
   QRect place(QPoint(), size);

@@ -21,7 +21,7 @@ class Combo : public QComboBox {
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
-    
+    if (!hasFocus()) return event->ignore();
     event->accept();
     turned_ += event->angleDelta().y();
     const int notches = turned_ / kWheelNotch;

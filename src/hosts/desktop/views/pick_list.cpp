@@ -41,7 +41,7 @@ void PickList::keyPressEvent(QKeyEvent* event) {
 // Another button than the left one picks nothing, so it marks nothing as picked either.
 void PickList::mousePressEvent(QMouseEvent* event) {
   picks_ = event->button() == Qt::LeftButton;
-  QListWidget::mousePressEvent(event);
+  if (picks_) QListWidget::mousePressEvent(event);
 }
 
 // The second press of a double click comes after the pick.

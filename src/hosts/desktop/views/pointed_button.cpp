@@ -68,7 +68,7 @@ void PointedButton::mouseMoveEvent(QMouseEvent* event) {
 }
 
 // Who double-clicks a link does not want its document twice.
-void PointedButton::mouseDoubleClickEvent(QMouseEvent* event) { QAbstractButton::mouseDoubleClickEvent(event); }
+void PointedButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void PointedButton::enterEvent(QEnterEvent* event) {
   setPointedAt(true);

@@ -110,7 +110,7 @@ void TabRow::mousePressEvent(QMouseEvent* event) {
   if (index >= 0) pick(index);
 }
 
-void TabRow::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+void TabRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void TabRow::mouseMoveEvent(QMouseEvent* event) {
   hovered_ = tabAt(event->position().toPoint());

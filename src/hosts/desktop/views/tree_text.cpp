@@ -59,7 +59,7 @@ class Rows {
         above[columnOf(*node)] = textOf(*node);
         if (node.get() == branch_) add(above);
       } else {
-        addNode(*node, above, true);
+        addNode(*node, above, inside || node.get() == branch_);
       }
     }
   }
