@@ -35,19 +35,33 @@ struct Kind {
 constexpr std::array kKinds{Kind{CallKind::engine, "engine call "}, Kind{CallKind::machine, "machine call "},
                             Kind{CallKind::windows, "window call "}, Kind{CallKind::dialogs, "dialog "}};
 
-// Runs the script to its end. What a line cannot do because of the fault (an item that was not listed, a map that is
-// not there) is passed over; a failure that leaves the program is a test failure. Gives the lines that were not done.
-std::set<std::string> runOn(headless::Replay& replay, const std::string& script) {
+constexpr int kLinesAfterFault = 6;
+
+// Runs the script until some lines after the fault, and closes the program. What a line cannot do because of the fault
+// (an item that was not listed, a map that is not there) is passed over; a failure that leaves the program is a test
+// failure. Gives the lines that were not done.
+std::set<std::string> runOn(scenarios::Run& run, const std::string& script) {
   std::set<std::string> notDone;
-  headless::forEachTextLine(script, [&](std::string_view line) {
+  const auto runLine = [&](const std::string& line) {
     try {
-      replay.runLine(line);
+      run.replay().runLine(line);
     } catch (const headless::UntrappedFailure& failure) {
       ADD_FAILURE() << line << ": " << failure.what();
     } catch (const headless::ScriptError&) {
-      notDone.insert("> " + std::string(line));
+      notDone.insert("> " + line);
     }
+  };
+  std::size_t looked = 0;
+  int linesLeft = -1;  // before the fault
+  headless::forEachTextLine(script, [&](std::string_view line) {
+    if (linesLeft == 0) return;
+    runLine(std::string(line));
+    if (linesLeft > 0) --linesLeft;
+    const auto begin = run.transcript().begin() + static_cast<std::ptrdiff_t>(looked);
+    if (linesLeft < 0 && std::any_of(begin, run.transcript().end(), scenarios::isFault)) linesLeft = kLinesAfterFault;
+    looked = run.transcript().size();
   });
+  if (linesLeft == 0) runLine("close");
   return notDone;
 }
 
@@ -76,7 +90,7 @@ bool failsAnyway(const Lines& transcript, const Lines& undisturbed) {
 void expectRightReaction(scenarios::Run run, const std::string& script, const Lines& reference, const Kind& kind,
                          int call) {
   run.replay().faults().failCall(kind.kind, call, faultOf(kind.kind));
-  const std::set<std::string> notDone = runOn(run.replay(), script);
+  const std::set<std::string> notDone = runOn(run, script);
   if (failsAnyway(run.transcript(), reference)) return;
   EXPECT_EQ(scenarios::complaintAbout(run.transcript()), "") << kind.name << call;
   EXPECT_EQ(scenarios::complaintAboutNext(run.transcript(), reference, notDone), "")
