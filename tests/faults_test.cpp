@@ -56,7 +56,7 @@ std::set<std::string> runOn(scenarios::Run& run, const std::string& script) {
   headless::forEachTextLine(script, [&](std::string_view line) {
     if (linesLeft == 0) return;
     runLine(std::string(line));
-    if (linesLeft > 0) --linesLeft;
+    if (linesLeft > 0 && !line.starts_with("show ")) --linesLeft;
     const auto begin = run.transcript().begin() + static_cast<std::ptrdiff_t>(looked);
     if (linesLeft < 0 && std::any_of(begin, run.transcript().end(), scenarios::isFault)) linesLeft = kLinesAfterFault;
     looked = run.transcript().size();
