@@ -30,7 +30,8 @@ class Mouse : public testing::ShownForm {
   }
   static void doubleClick(QWidget& widget, QPoint at) {
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, at);
-    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, at);
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, at);  // the second press alone
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, at);
     hands::settle();
   }
 };

@@ -113,6 +113,7 @@ class WidgetMonkey : public ::testing::Test {
   }
 
   scenarios::Study study_;
+  scenarios::InFolder here_{study_.folder()};
   NoPrograms programs_;
   std::unique_ptr<desktop::DesktopProgram> program_;
   QtMessageHandler before_ = nullptr;

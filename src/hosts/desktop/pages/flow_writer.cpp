@@ -138,12 +138,14 @@ void FlowWriter::lineBreak() {
 }
 
 void FlowWriter::inlineMarkup(const QString& markup, const TextStyle& style) {
+  if (length_ > kLongestParagraph) closeParagraph();
   open({style, {}});
   writeDue(nullptr);
   closeRun();
   html_ += markup;
   atLineStart_ = false;
   word_ = 0;
+  length_ += kLongestWord;  // that much work for the toolkit
 }
 
 void FlowWriter::anchor(const QString& name) {
@@ -256,8 +258,8 @@ QString FlowWriter::paragraphStart() {
   closing_ = QStringLiteral("</p>");
   const double numberWidth = static_cast<double>(number_.size() + 1) * kNumberCharacter * base_.pixels;
   const double indent = number_.isEmpty() ? block_.textIndent : -numberWidth;
-  return QLatin1String("<p") + blockAttribute(block_) + QLatin1String(" style=\"") + margin +
-         QStringLiteral("text-indent:%1px;").arg(zoomed(indent, zoom_)) + css + QLatin1String("\">");
+  const QString indented = QStringLiteral("text-indent:%1px;").arg(zoomed(indent, zoom_));
+  return QLatin1String("<p") + blockAttribute(block_) + classes_.paragraphAttribute(margin + indented + css) + u'>';
 }
 
 }  // namespace desktop::pages

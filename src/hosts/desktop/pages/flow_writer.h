@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "hosts/desktop/pages/page_style.h"
+#include "hosts/desktop/pages/style_classes.h"
 
 namespace desktop::pages {
 
@@ -13,8 +14,8 @@ namespace desktop::pages {
 // long that the toolkit would spend long on it.
 class FlowWriter {
  public:
-  // Writes behind `html`, which outlives the writer.
-  FlowWriter(QString& html, double zoom) : html_(html), zoom_(zoom) {}
+  // Writes behind `html`; this and `classes` outlive the writer.
+  FlowWriter(QString& html, StyleClasses& classes, double zoom) : html_(html), classes_(classes), zoom_(zoom) {}
 
   // What follows stands in a block of this style, so many pixels from the left and the right. Ends the line at hand.
   void block(const PageStyle& style, double left, double right);
@@ -57,6 +58,7 @@ class FlowWriter {
   [[nodiscard]] QString paragraphStart();
 
   QString& html_;
+  StyleClasses& classes_;
   double zoom_;
 
   PageStyle block_;

@@ -72,8 +72,14 @@ class TreeBuilder {
     if (isTablePart(tag)) return startTablePart(tag, std::move(attributes));
     closeBefore(tag);
     if (tag != Tag::table) return push(tag, tag, std::move(attributes));
-    const auto tables = std::ranges::count(open_, Tag::table, [](const Open& each) { return each.node->tag; });
-    push(tag, tables < limits_.tables ? tag : Tag::section, std::move(attributes));
+    push(tag, mayNest() ? tag : Tag::section, std::move(attributes));
+  }
+
+  // Whether a table may stand here as a table.
+  bool mayNest() {
+    const auto around = std::ranges::count(open_, Tag::table, [](const Open& each) { return each.node->tag; });
+    if (around == 0) return true;
+    return around < limits_.tables && nestedTables_++ < limits_.nestedTables;
   }
 
   static void adopt(Node& node, std::vector<Attribute> attributes) {
@@ -216,6 +222,7 @@ class TreeBuilder {
   Tag taken_ = Tag::text;  // the element whose text comes next and is no part of the tree
   std::size_t nodes_ = 0;
   std::size_t cells_ = 0;
+  int nestedTables_ = 0;
   qsizetype characters_ = 0;
 };
 

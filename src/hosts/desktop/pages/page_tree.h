@@ -29,7 +29,8 @@ struct TreeLimits {
   std::size_t cells = 120'000;
   qsizetype characters = 4'000'000;  // of its texts
   std::size_t depth = 80;            // elements in elements; tags further in are as if they were not there
-  int tables = 4;                    // tables in tables; the cells of those further in are blocks
+  int tables = 3;                    // tables in tables; the cells of those further in are blocks
+  int nestedTables = 2000;           // tables in tables altogether
 };
 
 struct PageTree {

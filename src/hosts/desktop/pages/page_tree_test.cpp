@@ -119,6 +119,14 @@ TEST(PageTree, TablesAreNestedSoFar) {
             "body(table(tr(td(section(section('a') section('b')) 'c') td('d'))))");
 }
 
+TEST(PageTree, SoManyTablesStandInOthers) {
+  TreeLimits limits;
+  limits.nestedTables = 1;
+  EXPECT_EQ(shown(treeOf(u"<table><td><table><td>a</table><table><td>b</table></table><table><td>c", limits).body())
+                .toStdString(),
+            "body(table(tr(td(table(tr(td('a'))) section(section('b'))))) table(tr(td('c'))))");
+}
+
 TEST(PageTree, ElementsAreNestedSoFar) {
   TreeLimits limits;
   limits.depth = 4;

@@ -3,7 +3,6 @@
 #include "hosts/desktop/pages/addresses.h"
 #include "hosts/desktop/pages/list_numbers.h"
 #include "hosts/desktop/pages/markup.h"
-#include "hosts/desktop/pages/table_grid.h"
 #include "hosts/desktop/pages/text_measure.h"
 
 namespace desktop::pages {
@@ -11,8 +10,9 @@ namespace {
 
 constexpr int kMostBoxes = 2;              // blocks with a frame in each other
 constexpr qsizetype kLongestBox = 20'000;  // characters of a block with a frame
-constexpr double kLeastPadding = 3;        // pixels between a text and a line beside it
-constexpr double kRuleGap = 8;             // pixels above and below a rule
+constexpr int kMostPictures = 1000;
+constexpr double kLeastPadding = 3;  // pixels between a text and a line beside it
+constexpr double kRuleGap = 8;       // pixels above and below a rule
 constexpr QColor kRuleColor{0xC8, 0xCE, 0xD6};
 
 double pixelsOf(const Length& length) { return std::max(0.0, length.pixels()); }
@@ -146,7 +146,7 @@ void PageWriter::mark(const Node& item, const PageStyle& style, const PagePlace&
 // A picture that may not be loaded is told of in words.
 void PageWriter::picture(const Node& node, const PageStyle& style, const PagePlace& place) {
   const QString address = pictureAddress(node.attribute(QLatin1String("src")));
-  if (address.isEmpty()) {
+  if (address.isEmpty() || ++pictures_ > kMostPictures) {
     return flow_.text(node.attribute(QLatin1String("alt")), style.text, style.whiteSpace, place.link);
   }
   const QString width = style.width.isPixels() ? widthText(style.width, zoom_) : QString();
@@ -184,7 +184,7 @@ void PageWriter::frame(const Node& node, const PageStyle& style, const PageStyle
 }
 
 void PageWriter::table(const Node& node, const PageStyle& style, const PageStyle& outer, const PagePlace& place) {
-  TableGrid grid = gridOf(node, style, styles_);
+  TableGrid grid = gridOf(node, style, styles_, placesLeft_);
   isCut_ = isCut_ || grid.isCut;
   flow_.endLine();
   flow_.gap(pixelsOf(style.margin[kTop]));
@@ -264,7 +264,7 @@ void PageWriter::beginTable(const PageStyle& style, double left, const Length& w
 
 void PageWriter::beginCell(const PageStyle& style, const QString& attributes, const PagePlace& place) {
   const Around around = place.cells > 0 ? Around::styles : Around::nothing;
-  html_ += QLatin1String("<td") + attributes + cellStyles_.attributesFor(style, around) + u'>';
+  html_ += QLatin1String("<td") + attributes + classes_.cellAttributes(style, around) + u'>';
   flow_.beginCell(style);
 }
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "hosts/desktop/pages/cell_styles.h"
 #include "hosts/desktop/pages/flow_writer.h"
 #include "hosts/desktop/pages/page_styles.h"
 #include "hosts/desktop/pages/page_tree.h"
+#include "hosts/desktop/pages/style_classes.h"
+#include "hosts/desktop/pages/table_grid.h"
 
 namespace desktop::pages {
-
-struct TableGrid;
-struct GridCell;
 
 // Where on the page something is written.
 struct PagePlace {
@@ -25,7 +23,7 @@ class PageWriter {
  public:
   // Writes behind `html`; this and `styles` outlive the writer.
   PageWriter(QString& html, PageStyles& styles, double zoom)
-      : html_(html), styles_(styles), zoom_(zoom), flow_(html, zoom), cellStyles_(zoom) {}
+      : html_(html), styles_(styles), zoom_(zoom), classes_(zoom), flow_(html, classes_, zoom) {}
 
   // What an element holds.
   void content(const Node& node, const PageStyle& style, const PagePlace& place);
@@ -33,7 +31,7 @@ class PageWriter {
   // Whether something had to be left out.
   [[nodiscard]] bool isCut() const { return isCut_; }
   // The style sheet that the page needs, for its head.
-  [[nodiscard]] const QString& sheet() const { return cellStyles_.sheet(); }
+  [[nodiscard]] const QString& sheet() const { return classes_.sheet(); }
 
  private:
   void element(const Node& node, const PageStyle& outer, const PagePlace& place);
@@ -55,8 +53,10 @@ class PageWriter {
   QString& html_;
   PageStyles& styles_;
   double zoom_;
+  StyleClasses classes_;
   FlowWriter flow_;
-  CellStyles cellStyles_;
+  int pictures_ = 0;
+  std::size_t placesLeft_ = kMostPlaces;
   bool isCut_ = false;
 };
 

@@ -8,7 +8,6 @@
 namespace desktop::pages {
 namespace {
 
-constexpr std::size_t kMostPlaces = 1'000'000;  // rows times columns of a table
 constexpr std::size_t kMostColumns = 512;
 constexpr std::size_t kColumnsOfAnyTable = 16;
 
@@ -36,11 +35,10 @@ class GridBuilder {
  public:
   GridBuilder(const PageStyle& style, PageStyles& styles) : style_(style), styles_(styles) {}
 
-  TableGrid build(const Node& table) {
+  TableGrid build(const Node& table, std::size_t places) {
     for (const auto& child : table.children) take(*child);
     std::ranges::stable_sort(sources_, {}, &Source::order);
-    mostColumns_ =
-        std::clamp(kMostPlaces / std::max<std::size_t>(sources_.size(), 1), kColumnsOfAnyTable, kMostColumns);
+    mostColumns_ = std::clamp(places / std::max<std::size_t>(sources_.size(), 1), kColumnsOfAnyTable, kMostColumns);
     for (std::size_t i = 0; i < sources_.size(); ++i) place(sources_[i], rowsLeft(i));
     for (std::size_t i = 0; i < std::min(columns_.size(), grid_.columns); ++i) {
       if (columns_[i].width.value > 0) widthOf(i) = columns_[i].width;
@@ -219,8 +217,9 @@ class GridBuilder {
 
 }  // namespace
 
-TableGrid gridOf(const Node& table, const PageStyle& style, PageStyles& styles) {
-  TableGrid grid = GridBuilder(style, styles).build(table);
+TableGrid gridOf(const Node& table, const PageStyle& style, PageStyles& styles, std::size_t& places) {
+  TableGrid grid = GridBuilder(style, styles).build(table, places);
+  places -= std::min(places, grid.columns * grid.rows.size());
   settleWidths(grid);
   return grid;
 }

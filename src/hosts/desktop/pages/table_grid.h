@@ -32,8 +32,11 @@ struct TableGrid {
   bool isCut = false;  // the table has more cells than are shown
 };
 
-// `style` is the table's own.
-[[nodiscard]] TableGrid gridOf(const Node& table, const PageStyle& style, PageStyles& styles);
+// Rows times columns of all tables of a page: about how many the toolkit lays out in seconds.
+inline constexpr std::size_t kMostPlaces = 400'000;
+
+// `style` is the table's own. `places` is what the page has left of them; the table's are taken off.
+[[nodiscard]] TableGrid gridOf(const Node& table, const PageStyle& style, PageStyles& styles, std::size_t& places);
 
 // Turns borders that neighbours share into borders of one of them, the wider one winning, and hands the table's own
 // borders to the cells along its edges. For tables whose borders collapse; in others only the table's own are handed

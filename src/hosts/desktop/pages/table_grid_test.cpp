@@ -12,13 +12,14 @@ struct Read {
     const Node* node = &tree.body();
     while (node->tag != Tag::table) node = node->children.front().get();
     style = styles.styleOf(*node, {});
-    grid = gridOf(*node, style, styles);
+    grid = gridOf(*node, style, styles, places);
   }
   [[nodiscard]] const GridCell& cell(std::size_t row, std::size_t index) const { return grid.rows[row].cells[index]; }
 
   PageTree tree;
   PageStyles styles;
   PageStyle style;
+  std::size_t places = kMostPlaces;
   TableGrid grid;
 };
 
@@ -63,7 +64,8 @@ TEST(TableGrid, IsNeverLargerThanCanBeShown) {
   EXPECT_EQ(wide.grid.columns, 512U);
   EXPECT_TRUE(wide.grid.isCut);
   const Read high(QStringLiteral("<table>") + QStringLiteral("<tr><td colspan=1000>a").repeated(20000));
-  EXPECT_LE(high.grid.columns * high.grid.rows.size(), 1'000'000U);
+  EXPECT_LE(high.grid.columns * high.grid.rows.size(), kMostPlaces);
+  EXPECT_EQ(high.places, kMostPlaces - high.grid.columns * high.grid.rows.size());
 }
 
 TEST(TableGrid, ColumnsHaveTheWidthsOfTheirElementsOrCells) {

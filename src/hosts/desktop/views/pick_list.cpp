@@ -13,9 +13,7 @@ namespace desktop {
 PickList::PickList(QWidget& parent) : QListWidget(&parent) {
   setWordWrap(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-    if (picks_) emit picked(row(item));
-  });
+  connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { emit picked(row(item)); });
   ensurePolished();
   addItem(QStringLiteral("X"));
   rowHeight_ = qMax(1, sizeHintForRow(0));
@@ -40,16 +38,7 @@ void PickList::keyPressEvent(QKeyEvent* event) {
 
 // Another button than the left one picks nothing, so it marks nothing as picked either.
 void PickList::mousePressEvent(QMouseEvent* event) {
-  picks_ = event->button() == Qt::LeftButton;
-  if (picks_) QListWidget::mousePressEvent(event);
-}
-
-// The second press of a double click comes after the pick.
-void PickList::mouseDoubleClickEvent(QMouseEvent*) { picks_ = false; }
-
-void PickList::mouseReleaseEvent(QMouseEvent* event) {
-  QListWidget::mouseReleaseEvent(event);
-  picks_ = false;
+  if (event->button() == Qt::LeftButton) QListWidget::mousePressEvent(event);
 }
 
 int PickList::chosenRow() const { return selectedItems().isEmpty() ? -1 : row(selectedItems().constFirst()); }

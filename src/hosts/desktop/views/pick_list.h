@@ -23,16 +23,12 @@ class PickList : public QListWidget {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void copy(int row) const;
   void copyAll() const;
   [[nodiscard]] int chosenRow() const;
-
-  bool picks_ = false;  // the button that is down will pick what it is released on
   int rowHeight_ = 0;
   int border_ = 0;  // above and below the rows together
 };
