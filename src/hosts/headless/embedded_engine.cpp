@@ -4,11 +4,19 @@
 
 namespace headless {
 
+namespace {
+
+motor::SessionOptions optionsFor(const std::filesystem::path& applicationFolder) {
+  return {.roots = {applicationFolder}, .decimalSign = ",", .thousandsSign = "."};
+}
+
+}  // namespace
+
 EmbeddedEngine::EmbeddedEngine(const std::filesystem::path& applicationFolder)
-    : EmbeddedEngine(applicationFolder, windows_) {}
+    : service_(windows_, optionsFor(applicationFolder)) {}
 
 EmbeddedEngine::EmbeddedEngine(const std::filesystem::path& applicationFolder, motor::WindowPort& windows)
-    : service_(windows, {.roots = {applicationFolder}, .decimalSign = ",", .thousandsSign = "."}) {}
+    : service_(windows, optionsFor(applicationFolder)) {}
 
 bool EmbeddedEngine::clickMap(const std::string& x, const std::string& y) {
   const auto session = service_.current();
