@@ -28,8 +28,6 @@ std::string defaultTitle(const Map& map) {
 // Statements may run statements; endless circles must not.
 constexpr int kDeepest = 16;
 
-constexpr int kRulerTool = 1710;
-
 }  // namespace
 
 SessionState::SessionState(WindowPort& windowPort, SessionOptions sessionOptions)
@@ -118,7 +116,7 @@ MapWindow& SessionState::windowOrFront(const ExpressionPtr& id) const {
 
 void SessionState::chooseTool(const Tool& tool) {
   toolbox.choose(tool);
-  rulerOpen = tool.command == kRulerTool;
+  rulerOpen = tool.command == tools::kRuler;
   allMapsChangedAbove();
 }
 

@@ -6,6 +6,7 @@
 
 #include "study/methods/hidden_deaths.h"
 #include "study/methods/rates.h"
+#include "study/methods/summed_counts.h"
 #include "study/model/indicators.h"
 
 namespace study {
@@ -105,15 +106,6 @@ class SexFigures {
   ByAge deaths_;
 };
 
-// The counts of the region, the provinces and the zones, in one pass over the zones.
-std::vector<Counts> countsOfUnits(const Study& study, const std::vector<Counts>& zones) {
-  const Counts none(study.ages.size(), study.causes.codes.size());
-  std::vector<Counts> units(1 + study.provinces.size(), none);
-  for (std::size_t zone = 0; zone < zones.size(); ++zone) units[1 + study.zones[zone].province] += zones[zone];
-  for (std::size_t province = 1; province < units.size(); ++province) units.front() += units[province];
-  return units;
-}
-
 }  // namespace
 
 // Computes the pages of a book.
@@ -125,7 +117,7 @@ class FigureBook::Writer {
   // Of a year: the region, the provinces, the zones.
   [[nodiscard]] std::vector<Page> pagesOf(std::size_t year) const {
     const HiddenDeaths hidden(study_, year);
-    const std::vector<Counts> units = countsOfUnits(study_, study_.counts[year]);
+    const std::vector<Counts> units = summedCounts(study_, year);
     std::vector<Page> pages;
     for (std::size_t i = 0; i < units.size(); ++i) {
       pages.push_back(pageOf(units[i], hidden, i == 0 ? Unit{} : Unit{UnitKind::province, i - 1}));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "study/methods/life_lost.h"
+#include "study/methods/summed_counts.h"
 
 namespace study {
 
@@ -79,21 +80,6 @@ Axis ageAxis(const Study& study) {
   return axis;
 }
 
-ByAge deathsOf(const Study& study, const Counts& counts, const SexChoice& sex, std::size_t cause) {
-  return cause == HiddenDeaths::kAllCauses ? counts.deaths(sex)
-                                           : counts.deaths(sex, study.causes.published[cause - 1].sums);
-}
-
-// The region, the provinces.
-std::vector<Counts> summedUnits(const Study& study, std::size_t year) {
-  std::vector<Counts> units{Counts(study.ages.size(), study.causes.codes.size())};
-  for (const Unit province : study.units(UnitKind::province)) {
-    units.push_back(study.countsOf(year, province));
-    units.front() += units.back();
-  }
-  return units;
-}
-
 HiddenCells cellsByAge(const Study& study, const std::vector<Counts>& units) {
   std::vector<long> cells;
   for (const SexChoice& sex : kSexChoices) {
@@ -148,7 +134,7 @@ HiddenDeaths::HiddenDeaths(const Study& study, std::size_t year)
       byAge_({}, {}, 0),
       byZone_({}, {}, 0) {
   if (!isAnyHidden_) return;
-  const std::vector<Counts> units = summedUnits(study, year);
+  const std::vector<Counts> units = summedCounts(study, year);
   byAge_ = cellsByAge(study, units);
   byZone_ = cellsByZone(study, units, study.counts[year]);
   while (shareSums()) {

@@ -1,23 +1,8 @@
 #include "study/pages/year_figures.h"
 
+#include "study/methods/summed_counts.h"
+
 namespace study::pages {
-
-namespace {
-
-ByAge deathsOf(const Study& study, const Counts& counts, const SexChoice& sex, std::size_t cause) {
-  return cause == 0 ? counts.deaths(sex) : counts.deaths(sex, study.causes.published[cause - 1].sums);
-}
-
-std::vector<Counts> summedUnits(const Study& study, std::size_t year) {
-  std::vector<Counts> units{Counts(study.ages.size(), study.causes.codes.size())};
-  for (const Unit province : study.units(UnitKind::province)) {
-    units.push_back(study.countsOf(year, province));
-    units.front() += units.back();
-  }
-  return units;
-}
-
-}  // namespace
 
 std::vector<CauseRow> causeRows(const Study& study, std::string_view list, const SexChoice& sex) {
   std::vector<CauseRow> rows;
@@ -29,7 +14,7 @@ std::vector<CauseRow> causeRows(const Study& study, std::string_view list, const
 }
 
 YearFigures::YearFigures(const Study& study, std::size_t year)
-    : study_(study), year_(year), units_(summedUnits(study, year)), hidden_(study, year) {}
+    : study_(study), year_(year), units_(summedCounts(study, year)), hidden_(study, year) {}
 
 const Counts& YearFigures::counts(Unit unit) const {
   if (unit.kind == UnitKind::zone) return study_.counts[year_][unit.index];

@@ -1,9 +1,9 @@
 #include "motor/window/dialogs/layer_chooser.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
+
+#include "motor/window/dialogs/answer_buttons.h"
 
 namespace motor {
 
@@ -33,15 +33,10 @@ LayerChooser::LayerChooser(MapWidget& map) : QDialog(&map), map_(&map), list_(ne
   list_->setCurrentRow(0);
   connect(list_, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
 
-  auto* buttons = new QDialogButtonBox;
-  buttons->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole)->setDefault(true);
-  buttons->addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* all = new QVBoxLayout(this);
   all->addWidget(question);
   all->addWidget(list_);
-  all->addWidget(buttons);
+  all->addWidget(answerButtons(*this));
 }
 
 void LayerChooser::accept() {

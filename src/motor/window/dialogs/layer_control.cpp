@@ -1,9 +1,9 @@
 #include "motor/window/dialogs/layer_control.h"
 
-#include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QPushButton>
 #include <QVBoxLayout>
+
+#include "motor/window/dialogs/answer_buttons.h"
 
 namespace motor {
 
@@ -21,14 +21,9 @@ LayerControl::LayerControl(MapWidget& map) : QDialog(&map), map_(&map), table_(n
   table_->horizontalHeader()->setSectionResizeMode(kName, QHeaderView::Stretch);
   table_->setMinimumWidth(table_->horizontalHeader()->length() + 2 * table_->frameWidth() + 40);
 
-  auto* buttons = new QDialogButtonBox;
-  buttons->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole)->setDefault(true);
-  buttons->addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* all = new QVBoxLayout(this);
   all->addWidget(table_);
-  all->addWidget(buttons);
+  all->addWidget(answerButtons(*this));
 }
 
 // A theme has objects and labels of its base only, so those switches are not its own.

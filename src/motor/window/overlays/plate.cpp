@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "motor/drawing/fonts.h"
+#include "motor/window/lettering.h"
 
 namespace motor {
 
@@ -20,18 +20,9 @@ constexpr QPointF kBesidePointer(14, 18);
 constexpr double kFromEdge = 4;
 constexpr QColor kLight(255, 255, 255, 244);
 constexpr QColor kLightEdge(70, 76, 84, 80);
-constexpr QColor kInk(31, 42, 60);
-constexpr QColor kMuted(92, 102, 116);
 constexpr QColor kDark(28, 38, 56, 232);
 
-QFont fontOf(double points, bool bold) {
-  constexpr int kBold = 1;
-  Font font;
-  font.name = "Tahoma";
-  font.size = points;
-  font.style = bold ? kBold : 0;
-  return toQFont(font);
-}
+QFont fontOf(double points, bool bold) { return lettering("Tahoma", points, bold); }
 
 // The baseline of a line of text whose top is there, on a whole pixel.
 double baseline(const QFontMetricsF& metrics, double top) { return std::round(top + metrics.ascent()); }

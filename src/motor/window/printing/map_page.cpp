@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "motor/drawing/fonts.h"
 #include "motor/drawing/scale_bar.h"
 #include "motor/session/ground_distance.h"
+#include "motor/window/lettering.h"
 #include "motor/window/printing/north_arrow.h"
 #include "text/spanish_number.h"
 
@@ -23,18 +23,9 @@ constexpr double kNorthRadius = 24;
 constexpr double kMostLegend = 0.42;  // of the page's width or height
 constexpr double kMetresPerPixel = 0.0254 / 96;
 constexpr int kRatioDigits = 3;
-constexpr QColor kInk(31, 42, 60);
-constexpr QColor kMuted(92, 102, 116);
 constexpr QColor kRule(150, 158, 170);
 
-QFont fontOf(double points, bool bold) {
-  constexpr int kBold = 1;
-  Font font;
-  font.name = "Verdana";
-  font.size = points;
-  font.style = bold ? kBold : 0;
-  return toQFont(font);
-}
+QFont fontOf(double points, bool bold) { return lettering("Verdana", points, bold); }
 QFont titleFont() { return fontOf(15, true); }
 QFont subtitleFont() { return fontOf(11, false); }
 QFont footerFont() { return fontOf(7.5, false); }

@@ -3,12 +3,12 @@
 #include <QPolygonF>
 
 #include "motor/drawing/halo_text.h"
+#include "motor/window/lettering.h"
 
 namespace motor {
 
 namespace {
 
-constexpr QColor kInk(31, 42, 60);
 constexpr double kLetterHeight = 11;  // pixels
 constexpr double kTip = 8;            // of the arrow, above the middle
 constexpr double kFoot = 14;          // below it
