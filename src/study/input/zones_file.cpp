@@ -14,6 +14,7 @@
 
 #include "study/input/input_text.h"
 #include "study/input/projection.h"
+#include "study/map_files/quiet_errors.h"
 #include "text/file_text.h"
 #include "text/utf8.h"
 
@@ -28,18 +29,6 @@ struct Format {
 constexpr std::array<Format, 4> kFormats{
     {{".gpkg", "GPKG"}, {".geojson", "GeoJSON"}, {".shp", "ESRI Shapefile"}, {".tab", "MapInfo File"}}};
 constexpr const char* kNames = "zones.gpkg, zones.geojson, zones.shp, zones.tab";
-
-// The library's messages go into faults, not to the terminal.
-class QuietErrors {
- public:
-  QuietErrors() {
-    CPLPushErrorHandler(CPLQuietErrorHandler);
-    CPLErrorReset();
-  }
-  ~QuietErrors() { CPLPopErrorHandler(); }
-  QuietErrors(const QuietErrors&) = delete;
-  QuietErrors& operator=(const QuietErrors&) = delete;
-};
 
 void addNoLayer(const FileFaults& faults) {
   faults.add(FaultKind::zonesLayer, 0, "no layer of zones can be found in the file",

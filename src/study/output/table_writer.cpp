@@ -8,6 +8,7 @@
 #include <fstream>
 #include <utility>
 
+#include "study/map_files/quiet_errors.h"
 #include "study/model/study_error.h"
 #include "study/model/windows1252.h"
 #include "text/number_text.h"
@@ -16,18 +17,6 @@
 namespace study {
 
 namespace {
-
-// The library's own messages go into the exceptions, not to the terminal.
-class QuietErrors {
- public:
-  QuietErrors() {
-    CPLErrorReset();
-    CPLPushErrorHandler(CPLQuietErrorHandler);
-  }
-  ~QuietErrors() { CPLPopErrorHandler(); }
-  QuietErrors(const QuietErrors&) = delete;
-  QuietErrors& operator=(const QuietErrors&) = delete;
-};
 
 [[noreturn]] void fail(const std::string& table) {
   const std::string reason = CPLGetLastErrorMsg();
