@@ -48,13 +48,15 @@ std::string yearWorkspace(int year, const MapProjection& projection) {
   const std::string zones = "ZonasBasicas" + suffix;
   const std::string whole = std::string(kRegion) + suffix;
   return workspaceHeader() + openTable(provinces, provinces) + openTable(zones, zones) + openTable(whole, whole) +
-         mapFrom({provinces, zones, whole}) + wholeRegion(projection) + "Set Map\n" + layerLines(1, kProvinceOutlines) +
-         layerLines(2, kZones) + layerLines(3, kHiddenRegion);
+         mapFrom({provinces, zones, whole}, "Provincias y zonas básicas de salud, " + suffix) +
+         wholeRegion(projection) + "Set Map\n" + layerLines(1, kProvinceOutlines) + layerLines(2, kZones) +
+         layerLines(3, kHiddenRegion);
 }
 
 std::string statisticsWorkspace(const MapProjection& projection) {
-  return workspaceHeader() + openTable("Estadisticas", "Estadisticas") + mapFrom({"Estadisticas"}) +
-         wholeRegion(projection) + "Set Map\n" + layerLines(1, kStatistics);
+  return workspaceHeader() + openTable("Estadisticas", "Estadisticas") +
+         mapFrom({"Estadisticas"}, "Estadísticas por provincias") + wholeRegion(projection) + "Set Map\n" +
+         layerLines(1, kStatistics);
 }
 
 }  // namespace study

@@ -17,6 +17,7 @@ TEST(Workspaces, YearMapHasItsThreeLayers) {
            "!Workspace\n!Version 600\n!Charset WindowsLatin1\n",
            "Open Table \"Provincias2001\" As Provincias2001 Interactive\n",
            "Map From Provincias2001,ZonasBasicas2001,Veldoria2001\n",
+           "Set Window FrontWindow() Title \"Provincias y zonas básicas de salud, 2001\" ScrollBars Off",
            "CoordSys Earth Projection 8, 104, \"m\", -3, 0, 0.9996, 500000, 0\n",
            "\n  Zoom Entire\n  Preserve Zoom Display Zoom\n  Distance Units \"km\"",
            "Layer 1\n    Display Graphic\n    Global Pen (",

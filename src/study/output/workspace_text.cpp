@@ -23,12 +23,13 @@ std::string openTable(std::string_view path, std::string_view alias) {
   return "Open Table " + quoted(path) + " As " + std::string(alias) + " Interactive\n";
 }
 
-std::string mapFrom(const std::vector<std::string>& tables) {
+std::string mapFrom(const std::vector<std::string>& tables, std::string_view title) {
   std::string list;
   for (const std::string& table : tables) list += (list.empty() ? "" : ",") + table;
   return "Map From " + list +
          "\n  Position (0.05,0.05) Units \"in\"\n  Width 7.5 Units \"in\" Height 5 Units \"in\"\n"
-         "Set Window FrontWindow() ScrollBars Off Autoscroll On\n";
+         "Set Window FrontWindow() Title " +
+         quoted(title) + " ScrollBars Off Autoscroll On\n";
 }
 
 std::string wholeRegion(const MapProjection& projection) {

@@ -32,8 +32,9 @@ inline constexpr int kHalo = 256;
 // `path` as seen from the workspace, without its ending; `alias` is the table's name in the session.
 [[nodiscard]] std::string openTable(std::string_view path, std::string_view alias);
 
-// A map window of these tables, the first on top.
-[[nodiscard]] std::string mapFrom(const std::vector<std::string>& tables);
+// A map window of these tables, the first on top. The title heads the map where it is printed, what follows a ". " in
+// it as the subtitle.
+[[nodiscard]] std::string mapFrom(const std::vector<std::string>& tables, std::string_view title);
 
 // The map's system, and the whole region, as large as the window lets it be.
 [[nodiscard]] std::string wholeRegion(const MapProjection& projection);

@@ -42,4 +42,10 @@ std::string legendSubtitle(std::string_view indicator, std::string_view sex, int
   return (isCauseRate(indicator) ? "Tasa x100.000, " : "") + std::string(sex) + ", " + std::to_string(year);
 }
 
+std::string mapTitle(const Study& study, const ThematicMap& map) {
+  const std::string units = map.units == UnitKind::province ? "Provincias" : "Zonas básicas de salud";
+  return map.indicator + ". " + std::string(map.sex) + ", " + std::to_string(study.years[map.year]) + ". " + units +
+         " de " + study.name(map.frame);
+}
+
 }  // namespace study

@@ -140,7 +140,7 @@ std::string thematicWorkspace(const Study& study, const ThematicMap& map, const 
     text += openTable(fromMap(study, map, std::filesystem::path("Base") / "Provincias"), kLimitsTable);
     tables.insert(tables.begin(), std::string(kLimitsTable));
   }
-  text += mapFrom(tables) + wholeRegion(projection);
+  text += mapFrom(tables, mapTitle(study, map)) + wholeRegion(projection);
   std::vector<std::string> rows;
   if (namesNoFigure) text += noFigureTheme(theme + 1);
   if (counts) {

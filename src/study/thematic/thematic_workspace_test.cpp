@@ -31,12 +31,14 @@ TEST_F(ThematicWorkspaces, TheMapsOwnTableIsOpenedFirst) {
   EXPECT_EQ(map.find("Open Table "), map.find("Open Table \"Tasa bruta (x100.000)\" As Tematico Interactive\n"));
   expectPart(map, "Open Table \"..\\..\\..\\..\\..\\Base\\Provincias\" As SinDatos Interactive\n");
   expectPart(map, "Map From Tematico,SinDatos\n");
+  expectPart(map, " Title \"Tasa bruta (x100.000). Ambos sexos, 2001. Provincias de Veldoria\" ");
 }
 
 TEST_F(ThematicWorkspaces, AProvincesMapLiesOneFolderHigher) {
   const std::string map = text({UnitKind::province, 0}, UnitKind::zone, kPopulationIndicator);
   expectPart(map, "Open Table \"..\\..\\..\\..\\Base\\Zonas\\Álava del Río\" As SinDatos Interactive\n");
   EXPECT_EQ(map.find("Limites"), std::string::npos);
+  expectPart(map, " Title \"Población. Ambos sexos, 2001. Zonas básicas de salud de Álava del Río\" ");
 }
 
 TEST_F(ThematicWorkspaces, ZonesOfTheRegionLieBelowTheProvincesLimits) {

@@ -21,8 +21,7 @@ bool hasTheme(const Map& map) {
 
 PageTexts pageTexts(const MapWindow& window, const QString& applicationTitle, QDate date) {
   PageTexts texts;
-  const QString own = QString::fromStdString(window.properties().title);
-  texts.title = isOwnTitle(own) ? own : applicationTitle;
+  texts.title = applicationTitle;
   if (hasTheme(window.map())) {
     Themes themes;
     const std::vector<LegendSection> sections = legendSections(window.map(), themes);
@@ -30,6 +29,12 @@ PageTexts pageTexts(const MapWindow& window, const QString& applicationTitle, QD
       texts.title = sections.front().title;
       texts.subtitle = sections.front().subtitle;
     }
+  }
+  const QString own = QString::fromStdString(window.properties().title);
+  if (isOwnTitle(own)) {
+    const QLatin1String end(". ");
+    texts.title = own.section(end, 0, 0);
+    if (own.contains(end)) texts.subtitle = own.section(end, 1);
   }
   if (!applicationTitle.isEmpty()) texts.source = QStringLiteral("Fuente: ") + applicationTitle;
   const QLocale spanish(QLocale::Spanish, QLocale::Spain);

@@ -15,9 +15,9 @@ struct PageTexts {
   QString date;
 };
 
-// What a map's page says unless the user wants something else: the title and subtitle of its theme, else the window's
-// title where a statement has given it one, else the application's; as the source the application's title; the date in
-// words.
+// What a map's page says unless the user wants something else: the window's title where a statement has given it one,
+// what follows a ". " in it as the subtitle; else the title and subtitle of its theme, else the application's title; as
+// the source the application's title; the date in words.
 [[nodiscard]] PageTexts pageTexts(const MapWindow& window, const QString& applicationTitle, QDate date);
 
 // Whether a map has a theme that is displayed, which is what a legend on a page explains.
