@@ -1,6 +1,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QTemporaryDir>
 #include <charconv>
 #include <filesystem>
 #include <iostream>
@@ -26,7 +27,8 @@ namespace {
 
 constexpr const char* kUsage =
     "motor FILE.wor [--size WxH] [--png OUT] [--legend OUT] [do STATEMENT | eval EXPRESSION | click X Y]...\n"
-    "motor --parse FILE...\n";
+    "motor --parse FILE...\n"
+    "motor --help\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
@@ -194,20 +196,36 @@ int parse(const std::vector<std::string>& files) {
   return status;
 }
 
-void useNoScreenWhereThereIsNone() {
-  const bool hasScreen = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-  if (!hasScreen && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-}
+// Nothing is shown, so no screen is asked for; nor a session, in whose folder the toolkit looks for screens: where
+// there is none, it gets an empty folder for as long as this lives.
+class NoScreen {
+ public:
+  NoScreen() {
+    constexpr const char* kSessionFolder = "XDG_RUNTIME_DIR";
+    const bool hasScreen = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (!hasScreen && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsSet(kSessionFolder)) return;
+    session_.emplace();
+    qputenv(kSessionFolder, QFile::encodeName(session_->path()));
+  }
+
+ private:
+  std::optional<QTemporaryDir> session_;
+};
 
 }  // namespace
 
 int main(int argc, char** argv) {
   std::vector<std::string> words(argv + 1, argv + argc);
+  if (words == std::vector<std::string>{"--help"}) {
+    std::cout << kUsage;
+    return 0;
+  }
   if (!words.empty() && words.front() == "--parse") return parse({words.begin() + 1, words.end()});
   try {
     if (words.empty()) throw UsageError("falta el área de trabajo");
     const CommandLine line = parsedCommandLine(words);
-    useNoScreenWhereThereIsNone();
+    const NoScreen screen;
     const QGuiApplication application(argc, argv);
     return open(line);
   } catch (const UsageError& error) {

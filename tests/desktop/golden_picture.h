@@ -5,9 +5,7 @@
 
 namespace pictures {
 
-// Compares what the screen shows with the golden picture of that name and of the screen's scale. With
-// VELDORIA_UPDATE_GOLDEN=1 the picture is written anew instead, to be looked at before it is kept. A picture that
-// differs is left in the folder of the test's run, with a map of the differences.
+// Compares what the screen shows with the golden picture of that name and of the screen's scale, as expectPicture does.
 void expectScreen(const std::string& name);
 
 // The scale of the screen.

@@ -5,8 +5,9 @@
 #include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
-#include <fstream>
 #include <sstream>
+
+#include "tour_study.h"
 
 namespace desktop {
 namespace {
@@ -17,17 +18,8 @@ namespace fs = std::filesystem;
 class Tours : public ::testing::Test {
  protected:
   void SetUp() override {
-    fs::copy(VELDORIA_TINY_STUDY, study, fs::copy_options::recursive);
-    for (const char* name : {"PRESENTACION.html", "Medologia.html", "Uso de la aplicacion.html", "Creditos.html",
-                             "mortalidad_1999.pdf", "mortalidad_2000.pdf", "mortalidad_2001.pdf"}) {
-      write(study / "Archivos" / name);
-    }
-    write(study / "Ayuda" / "Ayuda.html");
+    testing::makeTourStudy(study);
     fs::create_directory(pictures);
-  }
-  static void write(const fs::path& file) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file) << "texto";
   }
   [[nodiscard]] bool walk() {
     DesktopProgram program(study.string(), programs);
@@ -45,11 +37,12 @@ class Tours : public ::testing::Test {
 TEST_F(Tours, GoesThroughAndLeavesItsPictures) {
   EXPECT_TRUE(walk()) << log.str();
   const QStringList taken = QDir(QString::fromStdString(pictures.string())).entryList({QStringLiteral("*.png")});
-  EXPECT_EQ(taken.size(), 29) << taken.join('\n').toStdString();
+  EXPECT_EQ(taken.size(), 31) << taken.join('\n').toStdString();
   for (const QString& picture : taken) {
     EXPECT_FALSE(QImage(QString::fromStdString(pictures.string()) + '/' + picture).isNull()) << picture.toStdString();
   }
-  for (const char* said : {"Se abre ", "La ayuda", "mortalidad_2001.pdf", "Impreso: ", "Exportada: ", "«Salir»"}) {
+  for (const char* said :
+       {"Se abre ", "La ayuda", "mortalidad_2001.pdf", "Impreso: ", "Exportada: ", "Arrastrado: ", "«Salir»"}) {
     EXPECT_NE(log.str().find(said), std::string::npos) << said;
   }
 }

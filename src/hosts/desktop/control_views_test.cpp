@@ -4,7 +4,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
@@ -16,6 +15,7 @@
 #include <QTreeWidget>
 
 #include "hosts/desktop/qt_host.h"
+#include "hosts/desktop/test_files.h"
 #include "hosts/desktop/test_form.h"
 #include "hosts/desktop/user_hands.h"
 #include "hosts/desktop/views/tab_row.h"
@@ -48,7 +48,8 @@ class ControlViews : public ::testing::Test {
 
   ProgramCalls calls;
   motor::WidgetHandles handles;
-  QtHost host{calls, handles};
+  QTemporaryDir folder;
+  QtHost host{calls, handles, folder.path().toStdString()};
   testing::TestForm form{host};
 };
 
@@ -290,16 +291,21 @@ TEST_F(ControlViews, CommandButtonAndProgressBar) {
 }
 
 TEST_F(ControlViews, BrowserShowsAPageAndSaysItsName) {
-  QTemporaryDir folder;
-  QFile page(folder.filePath("Tabla.html"));
-  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-  page.write("<html><head><title>Defunci\xF3n</title></head><body>a\xF1o</body></html>");
-  page.close();
+  testing::writeFile(folder.filePath("Tabla.html"),
+                     "<html><head><title>Defunci\xF3n</title></head><body>a\xF1o</body></html>");
   form.browser.navigate(folder.path().toStdString() + "\\TABLA.HTML");
   EXPECT_EQ(form.browser.locationName(), "Defunción");
   EXPECT_EQ(widget<QTextBrowser>(form.browser).toPlainText(), "año");
   form.browser.navigate(folder.path().toStdString() + "\\Otra.html");
   EXPECT_EQ(form.browser.locationName(), "Otra.html");
+}
+
+TEST_F(ControlViews, BrowserShowsNothingFromOutsideTheApplicationFolder) {
+  const QTemporaryDir other;
+  testing::writeFile(other.filePath("Tablas/Tabla.html"), "<title>Fuera</title>");
+  form.browser.navigate(other.path().toStdString() + "\\Tablas\\Tabla.html");
+  EXPECT_EQ(form.browser.locationName(), "Tabla.html");
+  EXPECT_TRUE(widget<QTextBrowser>(form.browser).toPlainText().startsWith(QStringLiteral("No se encuentra")));
 }
 
 TEST_F(ControlViews, TimerTicksWhileItIsEnabled) {

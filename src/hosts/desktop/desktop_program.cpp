@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QSettings>
 #include <QTranslator>
 
 #include "atlas/shell/frm_inicio.h"
 #include "atlas/shell/statistics_workspace.h"
+#include "hosts/desktop/proposed_files.h"
 #include "hosts/desktop/rehearsal.h"
 #include "hosts/desktop/spanish_words.h"
 #include "hosts/desktop/theme.h"
@@ -28,9 +30,18 @@ motor::SessionOptions engineOptions(const std::string& applicationFolder) {
   return options;
 }
 
+// The toolkit would write down what its dialogs last showed, and those of the desktop which files were used.
+void leaveNoTraces() {
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  for (const QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat}) {
+    QSettings::setPath(format, QSettings::UserScope, QStringLiteral("/dev/null"));
+  }
+}
+
 }  // namespace
 
 void prepareApplication(QApplication& application) {
+  leaveNoTraces();
   QApplication::setApplicationName(QStringLiteral("Mortalidad en Veldoria 1999-2002"));
   QApplication::setQuitOnLastWindowClosed(false);  // the program says when it is over
   QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
@@ -39,11 +50,13 @@ void prepareApplication(QApplication& application) {
     QApplication::installTranslator(spanish);
   }
   QApplication::installTranslator(new SpanishWords(&application));
+  application.installEventFilter(new ProposedPrintFiles(&application));
   theme::install(application);
 }
 
 DesktopProgram::DesktopProgram(const std::string& applicationFolder, DesktopPrograms& programs)
     : sessions_(mapWindows_, engineOptions(applicationFolder)),
+      host_(calls_, handles_, applicationFolder),
       files_(machineFiles_, programs),
       registry_(programs),
       programs_(programs),

@@ -22,8 +22,9 @@ class QApplication;
 
 namespace desktop {
 
-// The application's name, look and words, for every program that shows the atlas. The toolkit's own dialogs speak
-// Spanish whatever the desktop's language; the number signs of the maps stay the desktop's.
+// The application's name, look and words, for every program that shows the atlas. Dialogs are the toolkit's own, which
+// speak Spanish whatever the desktop's language and write nothing down; the number signs of the maps stay the
+// desktop's.
 void prepareApplication(QApplication& application);
 
 // The program on the user's desktop: the atlas, its windows and the embedded map engine.
@@ -50,7 +51,7 @@ class DesktopProgram {
   motor::QtWindows mapWindows_{handles_};
   motor::SessionService sessions_;
   AnsweredEngines engines_{sessions_, calls_};
-  QtHost host_{calls_, handles_};
+  QtHost host_;
   QtWindowSystem windows_{host_, handles_};
   QtMessages messages_{host_};
   headless::HeadlessFiles machineFiles_;

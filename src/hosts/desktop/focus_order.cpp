@@ -2,10 +2,12 @@
 
 #include <QRadioButton>
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 #include "hosts/desktop/views/link_label.h"
 #include "hosts/desktop/views/tab_pages.h"
+#include "hosts/desktop/views/tool_button.h"
 
 namespace desktop {
 namespace {
@@ -116,12 +118,52 @@ void sortByReading(std::vector<Placed>& all) {
   std::ranges::stable_sort(all, {}, [](const Placed& one) { return one.place.key(); });
 }
 
-std::vector<QWidget*> sorted(const QWidget& window, const std::vector<QWidget*>& widgets) {
+std::vector<Placed> sorted(const QWidget& window, const std::vector<QWidget*>& widgets) {
   std::vector<Placed> all;
   for (QWidget* widget : widgets) all.push_back({placeOf(*widget, window), widget});
   sortByReading(all);
+  return all;
+}
+
+// Everything that takes the keyboard, each tool button too.
+std::vector<QWidget*> takers(const QWidget& window) {
+  std::vector<QWidget*> found;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (takesKeyboard(*widget, window)) found.push_back(widget);
+  }
+  return found;
+}
+
+const ToolButton* toolOf(const Placed& placed) { return dynamic_cast<const ToolButton*>(placed.widget); }
+
+// The end of the run of tool buttons in one row that begins here; the next place for anything else.
+std::vector<Placed>::const_iterator groupEnd(std::vector<Placed>::const_iterator first,
+                                             std::vector<Placed>::const_iterator end) {
+  if (toolOf(*first) == nullptr) return first + 1;
+  return std::find_if(first + 1, end, [&](const Placed& each) {
+    return toolOf(each) == nullptr || each.place.row != first->place.row || each.place.zone != first->place.zone;
+  });
+}
+
+// Where the keyboard enters a group: a button that it comes from stays the group's own place.
+QWidget* stopOf(std::vector<Placed>::const_iterator first, std::vector<Placed>::const_iterator end,
+                const QWidget* from) {
+  const auto rank = [&](const Placed& each) {
+    const ToolButton* tool = toolOf(each);
+    if (tool == nullptr) return std::tuple(false, 0, false);
+    return std::tuple(each.widget == from, tool->lastEntered(), tool->isCurrent());
+  };
+  return std::max_element(first, end, [&](const Placed& a, const Placed& b) { return rank(a) < rank(b); })->widget;
+}
+
+std::vector<QWidget*> stops(const QWidget& window, const std::vector<QWidget*>& widgets, const QWidget* from) {
+  const std::vector<Placed> all = sorted(window, widgets);
   std::vector<QWidget*> order;
-  for (const Placed& one : all) order.push_back(one.widget);
+  for (auto first = all.cbegin(); first != all.cend();) {
+    const auto end = groupEnd(first, all.cend());
+    order.push_back(stopOf(first, end, from));
+    first = end;
+  }
   return order;
 }
 
@@ -132,22 +174,31 @@ bool canHaveKeyboard(const QWidget& widget, const QWidget& window) {
 }
 
 std::vector<QWidget*> readingOrder(const QWidget& window) {
-  std::vector<QWidget*> found;
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    if (takesKeyboard(*widget, window)) found.push_back(widget);
+  return stops(window, takers(window), window.focusWidget());
+}
+
+std::vector<QWidget*> toolbarAround(const QWidget& window, const QWidget& button) {
+  const std::vector<Placed> all = sorted(window, takers(window));
+  for (auto first = all.cbegin(); first != all.cend();) {
+    const auto end = groupEnd(first, all.cend());
+    std::vector<QWidget*> group;
+    std::transform(first, end, std::back_inserter(group), [](const Placed& each) { return each.widget; });
+    if (std::ranges::find(group, &button) != group.end()) return group;
+    first = end;
   }
-  return sorted(window, found);
+  return {};
 }
 
 QWidget* nextInReadingOrder(const QWidget& window, const QWidget* from, bool next) {
-  std::vector<QWidget*> order = readingOrder(window);
+  std::vector<QWidget*> all = takers(window);
+  std::vector<QWidget*> order = stops(window, all, from);
   if (order.empty()) return nullptr;
   auto* start = const_cast<QWidget*>(from);
   const bool isHere = start != nullptr && start != &window && window.isAncestorOf(start);
   if (!isHere) return next ? order.front() : order.back();
   if (std::ranges::find(order, start) == order.end()) {
-    order.push_back(start);
-    order = sorted(window, order);
+    all.push_back(start);
+    order = stops(window, all, from);
   }
   const auto index = static_cast<std::size_t>(std::ranges::find(order, start) - order.begin());
   const std::size_t step = next ? 1 : order.size() - 1;

@@ -12,7 +12,8 @@
 
 namespace desktop {
 
-QtHost::QtHost(ProgramCalls& calls, motor::WidgetHandles& handles) : calls_(calls), handles_(handles) {
+QtHost::QtHost(ProgramCalls& calls, motor::WidgetHandles& handles, std::string applicationFolder)
+    : calls_(calls), handles_(handles), applicationFolder_(std::move(applicationFolder)) {
   calls_.returned = [this] { afterCall(); };
 }
 
@@ -134,7 +135,7 @@ void QtHost::nodeExpanded(forms::TreeView& tree, const forms::Node& node) {
 }
 
 void QtHost::navigated(forms::WebBrowser& browser, const std::string& path) {
-  if (ControlView* view = viewOf(browser)) view->navigated(path);
+  if (ControlView* view = viewOf(browser)) view->navigated(path, applicationFolder_);
 }
 
 std::int64_t QtHost::windowHandle(const forms::Control& control) {

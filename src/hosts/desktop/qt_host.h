@@ -4,6 +4,7 @@
 #include <QSize>
 #include <map>
 #include <optional>
+#include <string>
 
 #include "forms/listener.h"
 #include "hosts/desktop/form_window.h"
@@ -15,10 +16,11 @@ namespace desktop {
 // Shows the program's forms as windows.
 class QtHost : public forms::Listener {
  public:
-  // Both outlive the host.
-  QtHost(ProgramCalls& calls, motor::WidgetHandles& handles);
+  // Both references outlive the host. Pages are shown from the application folder alone: none where none is given.
+  QtHost(ProgramCalls& calls, motor::WidgetHandles& handles, std::string applicationFolder = {});
   ~QtHost() override;
 
+  [[nodiscard]] const std::string& applicationFolder() const { return applicationFolder_; }
   // The working window's first size instead of most of the screen; it may be made as small as one likes.
   void setFirstSize(QSize size) { firstSize_ = size; }
   // The window of a form that is loaded, or null.
@@ -50,6 +52,7 @@ class QtHost : public forms::Listener {
 
   ProgramCalls& calls_;
   motor::WidgetHandles& handles_;
+  std::string applicationFolder_;
   std::optional<QSize> firstSize_;
   // A window belongs to its form's load; the toolkit may end it earlier, with the window that it lies in front of.
   std::map<const forms::Form*, QPointer<FormWindow>> windows_;

@@ -23,6 +23,7 @@ constexpr QColor kFrame{0x8A, 0x93, 0xA3};
 constexpr QColor kTitleBar{0xE9, 0xEB, 0xEF};
 constexpr QColor kDesktop{0xC9, 0xCF, 0xD8};
 constexpr int kTitleInset = 10;
+constexpr const char* kSessionFolder = "XDG_RUNTIME_DIR";
 constexpr double kCross = 4;  // half of the mark that closes a window
 
 // From back to front.
@@ -98,7 +99,7 @@ void paintWindow(QPainter& painter, const Shown& shown) {
 
 }  // namespace
 
-UnseenScreen::UnseenScreen(QSize size, double scale) : description_(std::make_unique<QTemporaryDir>()) {
+UnseenScreen::UnseenScreen(QSize size, double scale) : folder_(std::make_unique<QTemporaryDir>()) {
   const QJsonObject screen{{QStringLiteral("name"), QStringLiteral("screen")},
                            {QStringLiteral("x"), 0},
                            {QStringLiteral("y"), 0},
@@ -107,20 +108,22 @@ UnseenScreen::UnseenScreen(QSize size, double scale) : description_(std::make_un
                            {QStringLiteral("logicalDpi"), 96},
                            {QStringLiteral("logicalBaseDpi"), 96},
                            {QStringLiteral("dpr"), 1}};
-  QFile file(description_->filePath(QStringLiteral("screen.json")));
+  QFile file(folder_->filePath(QStringLiteral("screen.json")));
   if (!file.open(QIODevice::WriteOnly)) return;
   file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), QJsonArray{screen}}}).toJson());
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file.fileName()));
   qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+  if (!qEnvironmentVariableIsSet(kSessionFolder)) qputenv(kSessionFolder, QFile::encodeName(folder_->path()));
 }
 
 UnseenScreen::~UnseenScreen() = default;
 
-QImage pictureOfScreen() {
+QImage pictureOfScreen(const Carried& carried) {
   const std::vector<Shown> windows = shownWindows();
   QRect all;
   for (const Shown& shown : windows) all |= shown.place();
   if (all.isEmpty()) return {};
+  if (!carried.picture.isNull()) all |= QRect(carried.at, carried.picture.deviceIndependentSize().toSize());
   const double scale = windows.front().widget->devicePixelRatioF();
   QImage picture((QSizeF(all.size()) * scale).toSize(), QImage::Format_RGB32);
   picture.setDevicePixelRatio(scale);
@@ -128,6 +131,7 @@ QImage pictureOfScreen() {
   QPainter painter(&picture);
   painter.translate(-all.topLeft());
   for (const Shown& shown : windows) paintWindow(painter, shown);
+  painter.drawPixmap(carried.at, carried.picture);
   return picture;
 }
 

@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <filesystem>
 #include <optional>
@@ -15,6 +12,8 @@
 #include "atlas/shell/frm_principal.h"
 #include "atlas/thematic/frm_tematicos.h"
 #include "hosts/desktop/desktop_program.h"
+#include "hosts/desktop/focus_order.h"
+#include "hosts/desktop/test_answers.h"
 #include "hosts/desktop/user_hands.h"
 #include "hosts/desktop/views/tab_row.h"
 #include "hosts/desktop/views/tool_button.h"
@@ -121,6 +120,25 @@ TEST_F(Story, AProvinceAZoneAnotherYear) {
   EXPECT_TRUE(program->isOver());
 }
 
+TEST_F(Story, AToolbarIsOneStopOfTheKeyboard) {
+  startByDoubleClick();
+  const QWidget& window = *program->host().windowOf(form());
+  const auto stops = [&window] {
+    Texts names;
+    for (const QWidget* each : readingOrder(window)) {
+      if (dynamic_cast<const ToolButton*>(each) != nullptr) names.push_back(each->accessibleName().toStdString());
+    }
+    return names;
+  };
+  EXPECT_EQ(stops(), Texts{"Información"});  // the tool in hand
+  EXPECT_EQ(toolbarAround(window, widget("Image3(0)")).size(), 10U);
+  clickTab("Ficha", 2);
+  EXPECT_EQ(toolbarAround(window, widget("Image4(0)")).size(), 10U);
+  clickTab("Ficha", 0);
+  EXPECT_EQ(stops(), Texts{"Ver la Tabla"});
+  EXPECT_EQ(toolbarAround(window, widget("ImgExportar")).size(), 2U);
+}
+
 TEST_F(Story, ResultsAreShownInWholeRows) {
   startByDoubleClick();
   clickTab("Ficha", 2);
@@ -135,11 +153,7 @@ TEST_F(Story, ResultsAreShownInWholeRows) {
 
 TEST_F(Story, WithoutACatalogueTheProgramStillEnds) {
   startByDoubleClick();
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, &answers, [] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->buttons().constFirst()->click();
-  });
-  answers.start(10);
+  const testing::MessageAnswers answers;
   clickTab("Ficha", 1);
   QTest::mouseClick(&widget("Image2(10)"), Qt::LeftButton);
   hands::settle();
@@ -151,11 +165,7 @@ TEST_F(Story, WithoutACatalogueTheProgramStillEnds) {
 
 TEST_F(Story, WithoutACatalogueTheVeilStaysUntilAYearIsShown) {
   startByDoubleClick();
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, &answers, [] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->buttons().constFirst()->click();
-  });
-  answers.start(10);
+  const testing::MessageAnswers answers;
   clickTab("Ficha", 1);
   clickTab("FichaAños", 1);
   clickTab("Ficha", 0);
@@ -169,17 +179,9 @@ TEST_F(Story, AMissingWorkspaceIsSaidAndTheProgramGoesOn) {
   std::filesystem::remove_all(std::filesystem::path(folder.path().toStdString()) / "Tablas" / "2002");
   startByDoubleClick();
   clickTab("Ficha", 2);
-  QString said;
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, &answers, [&] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-      said = box->text();
-      box->buttons().constFirst()->click();
-    }
-  });
-  answers.start(10);
+  const testing::MessageAnswers answers;
   clickTab("FichaAños", 3);
-  EXPECT_EQ(said, "No existe ningún mapa para los parámetros seleccionados");
+  EXPECT_EQ(answers.said(), "No existe ningún mapa para los parámetros seleccionados");
   pick("CmbProvincias", "Ávalos");
   EXPECT_FALSE(program->isOver());
 }

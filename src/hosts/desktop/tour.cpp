@@ -181,6 +181,9 @@ void Tour::useTools() {
   hands::pointAt(guide_.map(), beside);
   guide_.step("Una distancia medida", "distancia");
   hands::doubleClick(guide_.map());
+  chooseTool("Image4(6)");
+  guide_.takeOut(guide_.map(), middle, guide_.map().rect().bottomRight(), "El mapa, arrastrado fuera de la ventana",
+                 "arrastrado");
   guide_.openHelp("Image4(8)");
   guide_.click("Image4(3)");
 }

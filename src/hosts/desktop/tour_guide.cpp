@@ -3,19 +3,20 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
+#include <QDrag>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <ostream>
 #include <stdexcept>
 #include <utility>
 
-#include "hosts/desktop/screen_picture.h"
 #include "hosts/desktop/user_hands.h"
 #include "hosts/desktop/views/tab_row.h"
 
@@ -56,8 +57,7 @@ TourGuide::TourGuide(NotedPrograms& programs, std::filesystem::path pictures, st
     : programs_(programs), pictures_(std::move(pictures)), log_(log) {
   QObject::connect(&dialogs_, &QTimer::timeout, &dialogs_, [this] { answerDialogs(); });
   dialogs_.start(kLookForDialogs);
-  std::filesystem::remove(exported());
-  std::filesystem::remove(printed());
+  for (const std::filesystem::path& file : {exported(), printed(), takenOut()}) std::filesystem::remove(file);
 }
 
 FormWindow& TourGuide::window(const char* formName) const {
@@ -124,6 +124,22 @@ void TourGuide::openHelp(const char* control) {
   isNotThere("la ayuda");
 }
 
+// Who drags waits until the drag is over.
+void TourGuide::takeOut(QWidget& widget, QPoint from, QPoint to, const std::string& what, const std::string& picture) {
+  bool isTaken = false;
+  QTimer::singleShot(0, &widget, [&] {
+    const auto* drag = widget.findChild<QDrag*>();
+    if (drag == nullptr) return;
+    const auto image = qvariant_cast<QImage>(drag->mimeData()->imageData());
+    isTaken = image.save(QString::fromStdString(takenOut().string()));
+    tryStep(what, picture, {drag->pixmap(), widget.mapToGlobal(to) + QPoint(0, kPictureTitleHeight) - drag->hotSpot()});
+    QDrag::cancel();
+  });
+  hands::drag(widget, from, to);
+  if (!isTaken) isNotThere("lo que se arrastra");
+  say("Arrastrado: " + takenOut().string());
+}
+
 void TourGuide::pickFromMenu(QWidget& widget, QPoint at, const char* entry) const {
   hands::askForMenu(widget, at);
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -154,17 +170,25 @@ void TourGuide::finishDialogs() const {
 
 void TourGuide::say(const std::string& what) const { log_ << "      " << what << '\n'; }
 
-void TourGuide::step(const std::string& what, const std::string& picture) {
+void TourGuide::step(const std::string& what, const std::string& picture, const Carried& carried) {
   hands::settle();
   ++steps_;
   const std::string number = QStringLiteral("%1").arg(steps_, 2, 10, QLatin1Char('0')).toStdString();
   log_ << number << "  " << what << '\n';
-  write(number + "-" + picture + ".png");
+  write(number + "-" + picture + ".png", carried);
 }
 
-void TourGuide::write(const std::string& picture) {
+void TourGuide::tryStep(const std::string& what, const std::string& picture, const Carried& carried) {
+  try {
+    step(what, picture, carried);
+  } catch (const std::runtime_error& problem) {
+    say(problem.what());
+  }
+}
+
+void TourGuide::write(const std::string& picture, const Carried& carried) {
   const std::filesystem::path file = pictures_ / picture;
-  if (!writeSmall(pictureOfScreen(), QString::fromStdString(file.string()), kShadeStep)) {
+  if (!writeSmall(pictureOfScreen(carried), QString::fromStdString(file.string()), kShadeStep)) {
     throw std::runtime_error("no se pudo guardar " + file.string());
   }
   say(file.string());

@@ -10,6 +10,7 @@
 
 #include "hosts/desktop/form_window.h"
 #include "hosts/desktop/ports/known_programs.h"
+#include "hosts/desktop/screen_picture.h"
 
 class QDialog;
 class QComboBox;
@@ -54,6 +55,10 @@ class TourGuide {
   // Clicks what opens the help, takes its picture and closes it.
   void openHelp(const char* control);
 
+  // Drags a picture out of the widget, takes a picture of the screen meanwhile, and keeps what whoever takes it would
+  // get; nobody does.
+  void takeOut(QWidget& widget, QPoint from, QPoint to, const std::string& what, const std::string& picture);
+
   // Picks the entry from the context menu of what is there.
   void pickFromMenu(QWidget& widget, QPoint at, const char* entry) const;
   // Gives a map that was moved the time to be painted anew.
@@ -64,16 +69,20 @@ class TourGuide {
   void finishDialogs() const;
 
   // Takes a picture of all that is shown.
-  void step(const std::string& what, const std::string& picture);
+  void step(const std::string& what, const std::string& picture, const Carried& carried = {});
   void say(const std::string& what) const;
   // What a save dialog and a printer write.
   [[nodiscard]] std::filesystem::path exported() const { return pictures_ / "exportada.html"; }
+  // What was dragged out.
+  [[nodiscard]] std::filesystem::path takenOut() const { return pictures_ / "arrastrado.png"; }
   [[nodiscard]] std::filesystem::path printed() const { return pictures_ / "impreso.pdf"; }
 
  private:
   void answerDialogs();
   void answer(QDialog& dialog);
-  void write(const std::string& picture);
+  // The same in an event of the toolkit's, which lets no failure through.
+  void tryStep(const std::string& what, const std::string& picture, const Carried& carried);
+  void write(const std::string& picture, const Carried& carried);
 
   NotedPrograms& programs_;
   std::filesystem::path pictures_;

@@ -106,7 +106,8 @@ class ChartPainter {
 
 void paintChart(QPainter& painter, const ChartTheme& theme, std::span<const double> values, QPointF at,
                 double devicePixelRatio) {
-  if (!(theme.amountOf(values) > 0)) return;
+  const double amount = theme.amountOf(values);
+  if (!(amount > 0) || !std::isfinite(amount)) return;
   painter.save();
   ChartPainter(painter, theme, values, devicePixelRatio).paint(at);
   painter.restore();

@@ -4,15 +4,20 @@
 #include <cmath>
 
 #include "motor/drawing/size_growth.h"
+#include "motor/drawing/turns.h"
 
 namespace motor {
 
 namespace {
 
 constexpr double kDefaultSize = 36;  // pixels, of the largest chart
+constexpr double kMostSize = 2000;
 constexpr double kDefaultBarWidth = 7;
 // Of parts that the statement gives no brush.
 constexpr Colour kPartColours[] = {0x3A87A0, 0xE0A458, 0x7A9E4F, 0xB5523B, 0x6C5B8E, 0x8C8C8C};
+
+// A size that a picture has room for; of none, nothing.
+double bounded(double pixels) { return pixels > 0 ? std::min(pixels, kMostSize) : 0; }
 
 }  // namespace
 
@@ -20,7 +25,7 @@ ChartTheme::ChartTheme(const Layer& layer, const ShadeChart& chart) : by_(chart.
   const ThemeValues values(layer);
   readLook(chart, values, layer.theme->with.size());
   readValues(*layer.theme, values);
-  size_ = chart.maximumSize ? values.paperPixels(*chart.maximumSize) : kDefaultSize;
+  size_ = chart.maximumSize ? bounded(values.paperPixels(*chart.maximumSize)) : kDefaultSize;
   for (std::uint32_t i = 0; i * look_.parts.size() < byObject_.size(); ++i) {
     const double amount = amountOf(valuesOf(i));
     if (amount > 0) order_.push_back(i);
@@ -33,13 +38,13 @@ ChartTheme::ChartTheme(const Layer& layer, const ShadeChart& chart) : by_(chart.
 
 void ChartTheme::readLook(const ShadeChart& chart, const ThemeValues& values, std::size_t parts) {
   look_.isPie = chart.isPie;
-  if (chart.angle) look_.angle = values.number(chart.angle);
+  if (chart.angle) look_.angle = turnOf(values.number(chart.angle));
   look_.counterClockwise = chart.counterClockwise;
   look_.half = chart.half;
   look_.fixed = chart.fixed;
   look_.stacked = chart.stacked;
   look_.normalized = chart.normalized;
-  look_.barWidth = chart.width ? values.paperPixels(*chart.width) : kDefaultBarWidth;
+  look_.barWidth = chart.width ? bounded(values.paperPixels(*chart.width)) : kDefaultBarWidth;
   for (std::size_t i = 0; i < parts; ++i) {
     const Brush own{2, kPartColours[i % std::size(kPartColours)], kTransparent};
     look_.parts.push_back(i < chart.parts.size() ? values.styles(chart.parts[i]).brush.value_or(own) : own);

@@ -13,6 +13,8 @@ struct Side {
   double sign;
 
   [[nodiscard]] double distance(QPointF p) const { return sign * ((vertical ? p.x() : p.y()) - at); }
+  // A point that should lie on the side, without what rounding of far points has added.
+  [[nodiscard]] QPointF onIt(QPointF p) const { return vertical ? QPointF(at, p.y()) : QPointF(p.x(), at); }
 };
 
 QPolygonF clippedAt(const QPolygonF& ring, const Side& side) {
@@ -23,12 +25,18 @@ QPolygonF clippedAt(const QPolygonF& ring, const Side& side) {
   double before = side.distance(previous);
   for (const QPointF& point : ring) {
     const double now = side.distance(point);
-    if ((before < 0) != (now < 0)) result.append(previous + (point - previous) * (before / (before - now)));
+    if ((before < 0) != (now < 0)) {
+      result.append(side.onIt(previous + (point - previous) * (before / (before - now))));
+    }
     if (now >= 0) result.append(point);
     previous = point;
     before = now;
   }
   return result;
+}
+
+QPointF inside(const QRectF& area, QPointF p) {
+  return {std::clamp(p.x(), area.left(), area.right()), std::clamp(p.y(), area.top(), area.bottom())};
 }
 
 // The part of a segment inside the rectangle (Liang and Barsky 1984); false when nothing is.
@@ -49,8 +57,8 @@ bool clipSegment(QPointF& from, QPointF& to, const QRectF& area) {
     }
   }
   if (enter > leave) return false;
-  to = from + d * leave;
-  from += d * enter;
+  if (leave < 1) to = inside(area, from + d * leave);
+  if (enter > 0) from = inside(area, from + d * enter);
   return true;
 }
 

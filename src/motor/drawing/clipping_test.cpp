@@ -29,6 +29,15 @@ TEST(Clipping, CutsRingsAtTheSides) {
   for (const Case& c : cases) EXPECT_NEAR(areaOf(clippedRing(c.ring, kArea)), c.area, 1e-9);
 }
 
+TEST(Clipping, FarPointsLeaveNothingOutside) {
+  const QRectF room = kArea.adjusted(-1e-9, -1e-9, 1e-9, 1e-9);
+  const QPolygonF far{{-1e100, 3e99}, {2e100, 7}, {5, 1e80}, {5, 5}, {-1e100, 3e99}};
+  for (const QPointF& p : clippedRing(far, kArea)) EXPECT_TRUE(room.contains(p)) << p.x() << " " << p.y();
+  for (const QPolygonF& piece : clippedLine(far, kArea)) {
+    for (const QPointF& p : piece) EXPECT_TRUE(room.contains(p)) << p.x() << " " << p.y();
+  }
+}
+
 TEST(Clipping, CutsLinesIntoThePiecesThatAreInside) {
   struct Case {
     QPolygonF line;

@@ -10,10 +10,14 @@ namespace motor {
 
 namespace {
 
+constexpr double kTallest = 8192;    // pixels; letters of any height are outlines of about that size
+constexpr double kTallestOwn = 256;  // of a size in points
+
 constexpr int kBold = 1;
 constexpr int kItalic = 2;
 constexpr int kUnderline = 4;
 constexpr int kStrikeOut = 8;
+constexpr int kShadow = 32;
 constexpr int kHaloStyle = 256;
 constexpr int kCapitals = 512;
 constexpr int kExpanded = 1024;
@@ -54,8 +58,8 @@ QString installedFamily(const std::string& name) {
 
 QFont toQFont(const Font& font, double pixels) {
   QFont result(installedFamily(font.name));
-  const double height = pixels > 0 ? pixels : font.size * kPixelsPerPoint;
-  result.setPixelSize(std::max(1, static_cast<int>(std::lround(height))));
+  const double height = pixels > 0 ? std::min(pixels, kTallest) : std::min(font.size * kPixelsPerPoint, kTallestOwn);
+  result.setPixelSize(height > 1 ? static_cast<int>(std::lround(height)) : 1);
   result.setBold(font.style & kBold);
   result.setItalic(font.style & kItalic);
   result.setUnderline(font.style & kUnderline);
@@ -66,5 +70,9 @@ QFont toQFont(const Font& font, double pixels) {
 }
 
 bool hasHalo(const Font& font) { return font.style & kHaloStyle; }
+
+bool hasShadow(const Font& font) { return font.style & kShadow; }
+
+bool hasBox(const Font& font) { return !hasHalo(font) && font.back != kTransparent; }
 
 }  // namespace motor

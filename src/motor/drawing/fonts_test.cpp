@@ -27,6 +27,19 @@ TEST(Fonts, StylesAddUp) {
   EXPECT_GT(all.letterSpacing(), 100);
   EXPECT_TRUE(hasHalo({"Verdana", 256, 9, 0, kTransparent}));
   EXPECT_FALSE(hasHalo({"Verdana", 1, 9, 0, kTransparent}));
+  EXPECT_TRUE(hasShadow({"Verdana", 32, 9, 0, kTransparent}));
+}
+
+TEST(Fonts, ABackColourIsAHalosOrABoxs) {
+  EXPECT_TRUE(hasBox({"Verdana", 1, 9, 0, 0xFFFFFF}));
+  EXPECT_FALSE(hasBox({"Verdana", 1, 9, 0, kTransparent}));
+  EXPECT_FALSE(hasBox({"Verdana", 256, 9, 0, 0xFFFFFF}));
+}
+
+TEST(Fonts, LettersAreOfAHeightThatCanBeDrawn) {
+  EXPECT_EQ(toQFont({"Verdana", 0, 1e9, 0, kTransparent}).pixelSize(), 256);
+  EXPECT_EQ(toQFont({"Verdana", 0, -1, 0, kTransparent}).pixelSize(), 1);
+  EXPECT_EQ(toQFont({"Verdana", 0, 9, 0, kTransparent}, 1e9).pixelSize(), 8192);
 }
 
 }  // namespace

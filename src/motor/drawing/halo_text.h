@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QFont>
+#include <QList>
 #include <QPainter>
+#include <QPainterPath>
 #include <QSizeF>
 #include <QStringList>
 
@@ -9,22 +11,29 @@
 
 namespace motor {
 
-// Lines of text in a map font, with a halo: the font's own where it asks for one, else a faint one that keeps the
-// letters legible on whatever lies below.
+// Lines of text in a map font, on what keeps the letters legible whatever lies below: the box or the halo that the font
+// asks for, else a faint halo. A shadow lies below them where the font has one.
 class HaloText {
  public:
-  // `pixels` is the letters' height in logical pixels, or 0 for the font's own size.
-  HaloText(QStringList lines, const Font& font, double pixels = 0);
+  // `pixels` is the letters' height in logical pixels, or 0 for the font's own size. Of more lines or letters than any
+  // map has room for the first ones are taken, with an ellipsis at the end.
+  HaloText(const QStringList& lines, const Font& font, double pixels = 0);
 
+  // With the box, where there is one.
   [[nodiscard]] QSizeF size() const { return size_; }
   // With the top left of the text's box at `corner`; the lines left, right or centred within the box.
   void paint(QPainter& painter, QPointF corner, Qt::Alignment alignment) const;
 
  private:
+  [[nodiscard]] QList<QPointF> starts(QPointF corner, Qt::Alignment alignment) const;
+  void paintGround(QPainter& painter, QPointF corner, const QPainterPath& outline) const;
+
   QStringList lines_;
   QFont font_;
   QColor fore_;
   QColor halo_;
+  QColor box_;  // not valid without one
+  QColor shadow_;
   double haloWidth_;
   double lineHeight_;
   QSizeF size_;

@@ -1,13 +1,19 @@
 #include "motor/drawing/label_painter.h"
 
+#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
+#include "motor/drawing/callouts.h"
 #include "motor/drawing/clipping.h"
+#include "motor/drawing/fonts.h"
 #include "motor/drawing/label_point.h"
+#include "motor/drawing/line_place.h"
 #include "motor/drawing/pens.h"
 #include "motor/drawing/shape_painter.h"
+#include "motor/drawing/turns.h"
+#include "motor/drawing/wrapped_text.h"
 
 namespace motor {
 
@@ -17,8 +23,13 @@ constexpr double kGap = 2;               // pixels between two labels
 constexpr double kPointGap = 5;          // pixels between a point and its label
 constexpr double kEdge = 3;              // pixels between a label and the picture's edge
 constexpr double kMostShift = 0.3;       // of its width, that a region's label is moved to keep off the edge
+constexpr double kMostRise = 0.6;        // of its height
+constexpr double kCornerGap = 0.7;       // of the gap to a point, for labels at its corners
+constexpr int kLargestSymbol = 240;      // points
 constexpr double kPixelPrecision = 1;    // of a label's place in a region that is seen in part
 constexpr double kShareOfRegion = 0.02;  // precision of a label's place, as a part of the region's size
+constexpr double kWidestLabel = 0.8;     // of the picture's width, of one that must be broken
+constexpr double kBreadth = 1.4;         // of a label, times its height: the shape that needs room in a region
 constexpr int kCentre = 0;
 
 // Where the label lies from its anchor by its position number, in halves of its size: 0 CC, 1 TL, 2 TC, 3 TR, 4 CL, 5
@@ -40,11 +51,24 @@ QStringList folded(const QString& text) {
   return {text.left(best), text.mid(best + 1)};
 }
 
-HaloText layOut(const Font& font, const QString& text, double room) {
+// In two lines where that lets it keep within its region, in more where it would be wider than the picture.
+HaloText layOut(const Font& font, const QString& text, double room, double picture) {
   const QStringList lines = text.split('\n');
   HaloText label(lines, font);
   if (lines.size() == 1 && label.size().width() > room) label = HaloText(folded(text), font);
-  return label;
+  if (label.size().width() <= picture) return label;
+  const double most = std::max(1.0, picture * kWidestLabel);
+  return HaloText(wrappedText(text, QFontMetricsF(toQFont(font)), most, most), font);
+}
+
+// Whole pixels keep upright letters sharp.
+void paintTurned(QPainter& painter, const HaloText& label, const QRectF& box, QPointF pivot, double degrees) {
+  if (degrees == 0) return label.paint(painter, box.topLeft() + pivot, Qt::AlignHCenter);
+  painter.save();
+  painter.translate(pivot);
+  painter.rotate(-degrees);
+  label.paint(painter, box.topLeft(), Qt::AlignHCenter);
+  painter.restore();
 }
 
 // A layer's label settings as a label that was changed by hand has them.
@@ -68,42 +92,42 @@ std::vector<int> positionsOf(const LabelSettings& settings, bool isPoint, bool h
   return positions;
 }
 
-Point middleOfLine(const MapObject& line) {
-  double length = 0;
-  const auto forSegments = [&](auto visit) {
-    for (std::size_t part = 0; part < line.partCount(); ++part) {
-      for (std::size_t i = line.parts[part] + 1; i < line.partEnd(part); ++i) {
-        const Point a = line.points[i - 1];
-        const Point b = line.points[i];
-        if (!visit(a, b, std::hypot(b.x - a.x, b.y - a.y))) return;
-      }
-    }
-  };
-  forSegments([&](Point, Point, double segment) {
-    length += segment;
-    return true;
-  });
-  Point middle = line.points.empty() ? Point{} : line.points.front();
-  double left = length / 2;
-  forSegments([&](Point a, Point b, double segment) {
-    if (segment > 0 && left <= segment) {
-      middle = {a.x + (b.x - a.x) * left / segment, a.y + (b.y - a.y) * left / segment};
-      return false;
-    }
-    left -= segment;
-    return true;
-  });
-  return middle;
+// By how much a box must be moved at least to lie in the picture.
+QPointF wayInto(const QRectF& picture, const QRectF& box) {
+  const QRectF room = picture.adjusted(kEdge, kEdge, -kEdge, -kEdge);
+  QRectF moved = box;
+  if (moved.right() > room.right()) moved.moveRight(room.right());
+  if (moved.bottom() > room.bottom()) moved.moveBottom(room.bottom());
+  if (moved.left() < room.left()) moved.moveLeft(room.left());
+  if (moved.top() < room.top()) moved.moveTop(room.top());
+  return moved.topLeft() - box.topLeft();
 }
 
-// A box moved as little as needed to lie in the picture.
-QRectF movedInto(const QRectF& picture, QRectF box) {
-  const QRectF room = picture.adjusted(kEdge, kEdge, -kEdge, -kEdge);
-  if (box.right() > room.right()) box.moveRight(room.right());
-  if (box.bottom() > room.bottom()) box.moveBottom(room.bottom());
-  if (box.left() < room.left()) box.moveLeft(room.left());
-  if (box.top() < room.top()) box.moveTop(room.top());
-  return box;
+// How far a label may be moved from its place to lie in the picture.
+QSizeF mostShift(MapObject::Kind kind, QSizeF label) {
+  if (kind == MapObject::Kind::region) return {label.width() * kMostShift, label.height() * kMostRise};
+  if (kind == MapObject::Kind::polyline) return {label.height(), label.height()};
+  return {0, 0};
+}
+
+// How far a label keeps from its anchor: off the sign or the symbol that stands there.
+double gapOf(const LabelSettings& settings, const LabelCandidate& candidate, const Layer& layer) {
+  double least = 0;
+  if (candidate.object->kind == MapObject::Kind::point) {
+    const double symbol = std::min(styleIn(layer, *candidate.object).symbol.size, kLargestSymbol) * kPixelsPerPoint;
+    least = std::max(kPointGap, symbol / 2 + 1);
+  }
+  return candidate.clearance + std::max(settings.offset * kPixelsPerPoint, least);
+}
+
+// The box of a label at a position around its anchor, relative to it.
+QRectF boxAt(int position, QSizeF size, double gap, bool isPoint) {
+  const double* side = kPositions[position];
+  const bool isCorner = side[0] != 0 && side[1] != 0;
+  const double away = isPoint && isCorner ? gap * kCornerGap : gap;
+  const QPointF centre(side[0] * (size.width() / 2 + away),
+                       side[1] * (size.height() / 2 + (isCorner && isPoint ? 0 : away)));
+  return {centre - QPointF(size.width() / 2, size.height() / 2), size};
 }
 
 }  // namespace
@@ -116,13 +140,14 @@ Point LabelPoints::of(const ObjectPtr& region) {
     for (std::size_t part = 0; part < object.partCount(); ++part) {
       QPolygonF ring;
       for (std::size_t i = object.parts[part]; i < object.partEnd(part); ++i) {
-        ring.append({object.points[i].x, object.points[i].y});
+        ring.append({object.points[i].x / kBreadth, object.points[i].y});
       }
       rings.push_back(std::move(ring));
     }
-    const double size = std::min(object.bounds.maxX - object.bounds.minX, object.bounds.maxY - object.bounds.minY);
+    const double width = (object.bounds.maxX - object.bounds.minX) / kBreadth;
+    const double size = std::min(width, object.bounds.maxY - object.bounds.minY);
     const QPointF best = labelPoint(rings, size * kShareOfRegion);
-    entry = {region, {best.x(), best.y()}};
+    entry = {region, {best.x() * kBreadth, best.y()}};
   }
   return entry.point;
 }
@@ -143,29 +168,40 @@ LabelPainter::LabelPainter(QPainter& painter, const MapView& view, SimplifiedPat
                            LabelPoints& points)
     : painter_(painter), view_(view), paths_(paths), level_(level), texts_(texts), points_(points) {}
 
-bool LabelPainter::isFree(const QRectF& box) const {
-  return std::none_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(box); });
+bool LabelPainter::isFree(const LabelBox& box) const {
+  return std::none_of(taken_.begin(), taken_.end(), [&](const LabelBox& other) { return other.intersects(box); });
 }
 
 QPointF LabelPainter::regionAnchor(const ObjectPtr& region) {
   if (view_.rect().contains(view_.toPixels(region->bounds))) return view_.toPixel(points_.of(region));
   std::vector<QPolygonF> seen;
   for (const QPolygonF& ring : pixelParts(*region, paths_.of(region, level_), view_)) {
-    if (QPolygonF inside = clippedRing(ring, view_.rect()); inside.size() > 3) seen.push_back(std::move(inside));
+    if (QPolygonF inside = clippedRing(ring, view_.rect()); inside.size() > 3) {
+      for (QPointF& p : inside) p.rx() /= kBreadth;
+      seen.push_back(std::move(inside));
+    }
   }
   if (seen.empty()) return {std::numeric_limits<double>::quiet_NaN(), 0};
-  return labelPoint(seen, kPixelPrecision);
+  const QPointF best = labelPoint(seen, kPixelPrecision);
+  return {best.x() * kBreadth, best.y()};
 }
 
-QPointF LabelPainter::anchorOf(const LabelCandidate& candidate) {
-  if (candidate.anchor) return view_.toPixel(*candidate.anchor);
+LabelPainter::Anchor LabelPainter::lineAnchor(const ObjectPtr& line, double width) {
+  const QRectF room = view_.rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
+  const auto place = linePlace(pixelParts(*line, paths_.of(line, level_), view_), room, width);
+  if (!place) return {{std::numeric_limits<double>::quiet_NaN(), 0}, 0};
+  return {place->at, place->degrees};
+}
+
+LabelPainter::Anchor LabelPainter::anchorOf(const LabelCandidate& candidate, double width) {
+  if (candidate.anchor) return {view_.toPixel(*candidate.anchor), 0};
   switch (candidate.object->kind) {
     case MapObject::Kind::region:
-      return regionAnchor(candidate.object);
+      return {regionAnchor(candidate.object), 0};
     case MapObject::Kind::polyline:
-      return view_.toPixel(middleOfLine(*candidate.object));
+      return lineAnchor(candidate.object, width);
     default:
-      return view_.toPixel(candidate.object->points.front());
+      return {view_.toPixel(candidate.object->points.front()), 0};
   }
 }
 
@@ -183,34 +219,46 @@ void LabelPainter::paintLayer(const Layer& layer, std::vector<LabelCandidate> ca
     const QString text = QString::fromStdString(source).trimmed();
     if (text.isEmpty()) continue;
     if (candidate.edited == nullptr && !layer.label.duplicates && written.contains(text)) continue;
-    const QPointF anchor = anchorOf(candidate);
-    if (!view_.rect().contains(anchor)) continue;
-    if (paintLabel(settingsOf(layer, candidate.edited), candidate, text, anchor)) written.insert(text);
+    if (!paintLabel(layer, candidate, text)) continue;
+    written.insert(text);
+    if (candidate.edited != nullptr && candidate.anchor) {
+      LabelCandidate unmoved = candidate;
+      unmoved.anchor = candidate.callout;
+      paintCallout(painter_, layer, *candidate.edited, taken_.back().bounds(), anchorOf(unmoved, 0).at);
+    }
   }
 }
 
-bool LabelPainter::paintLabel(const LabelSettings& settings, const LabelCandidate& candidate, const QString& text,
-                              QPointF anchor) {
+bool LabelPainter::paintLabel(const Layer& layer, const LabelCandidate& candidate, const QString& text) {
+  const LabelSettings settings = settingsOf(layer, candidate.edited);
   const MapObject& object = *candidate.object;
   const bool isRegion = object.kind == MapObject::Kind::region;
   const double room = isRegion ? view_.toPixels(object.bounds).width() : std::numeric_limits<double>::max();
-  const HaloText label = layOut(settings.font, text, room);
+  const HaloText label = layOut(settings.font, text, room, view_.rect().width() - 2 * kEdge);
   const QSizeF size = label.size();
+  Anchor anchor = anchorOf(candidate, settings.parallel ? size.width() : 0);
+  if (!view_.rect().contains(anchor.at)) return false;
+  if (!settings.parallel) anchor.degrees = 0;
+  if (candidate.edited != nullptr && candidate.edited->angle != 0) anchor.degrees = turnOf(candidate.edited->angle);
   const bool isPoint = object.kind == MapObject::Kind::point;
-  const std::vector<int> positions = positionsOf(settings, isPoint, candidate.clearance > 0);
-  const double gap = candidate.clearance + std::max(settings.offset * kPixelsPerPoint, isPoint ? kPointGap : 0);
-  for (const int position : positions) {
-    const double* side = kPositions[position];
-    const QPointF centre = anchor + QPointF(side[0] * (size.width() / 2 + gap), side[1] * (size.height() / 2 + gap));
-    const QRectF wanted(centre - QPointF(size.width() / 2, size.height() / 2), size);
-    const QRectF box = movedInto(view_.rect(), wanted);
-    if (isRegion && std::abs(box.x() - wanted.x()) > size.width() * kMostShift) continue;
-    if (!settings.overlap && !isFree(box.adjusted(-kGap, -kGap, kGap, kGap))) continue;
-    label.paint(painter_, box.topLeft(), Qt::AlignHCenter);
-    taken_.push_back(box);
-    return true;
-  }
-  return false;
+  const double gap = gapOf(settings, candidate, layer);
+  const auto tryPositions = [&](QSizeF mayMove) {
+    for (const int position : positionsOf(settings, isPoint, candidate.clearance > 0)) {
+      const QRectF own = boxAt(position, size, gap, isPoint);
+      const QPointF way = wayInto(view_.rect(), LabelBox(own, anchor.at, anchor.degrees).bounds());
+      if (std::abs(way.x()) > mayMove.width() || std::abs(way.y()) > mayMove.height()) continue;
+      const QPointF pivot = anchor.at + way;
+      if (!settings.overlap && !isFree(LabelBox(own.adjusted(-kGap, -kGap, kGap, kGap), pivot, anchor.degrees)))
+        continue;
+      paintTurned(painter_, label, own, pivot, anchor.degrees);
+      taken_.emplace_back(own, pivot, anchor.degrees);
+      return true;
+    }
+    return false;
+  };
+  // The place of a point's label follows from the point; only where no place is whole in the picture is one moved.
+  if (tryPositions(mostShift(object.kind, size))) return true;
+  return (isPoint || candidate.edited != nullptr) && tryPositions(view_.rect().size());
 }
 
 }  // namespace motor

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "motor/drawing/halo_text.h"
+#include "motor/drawing/label_box.h"
 #include "motor/drawing/label_texts.h"
 #include "motor/drawing/map_view.h"
 #include "motor/drawing/simplified_paths.h"
@@ -16,7 +17,8 @@
 
 namespace motor {
 
-// The best points for labels, by object, in the map's coordinates; they cost too much to be found at every redraw.
+// The best points for labels, by object, in the map's coordinates: where a text, which is broader than high, has most
+// room inside a region. They cost too much to be found at every redraw.
 class LabelPoints {
  public:
   [[nodiscard]] Point of(const ObjectPtr& region);
@@ -37,13 +39,15 @@ struct LabelCandidate {
   RowId row = 0;
   const EditedLabel* edited = nullptr;  // where it was put or changed by hand
   std::optional<Point> anchor;          // where it is not the engine's own choice, in the map's coordinates
+  std::optional<Point> callout;         // where the line of a label ends that was moved, where it was given
   double clearance = 0;                 // pixels around the anchor that belong to a sign; the label goes below it
 };
 
 // Whether a layer has labels at this zoom.
 [[nodiscard]] bool isLabelledAt(const Layer& layer, double zoomMetres);
 
-// Writes the labels of a map, layer by layer from the most important one on. A label stays away if it would lie on one
+// Writes the labels of a map, layer by layer from the most important one on. Labels lie whole in the picture; those of
+// lines lie along them where their layer wants it. A label stays away if it would lie on one
 // that is already there, unless its layer lets labels overlap; a text is written once a layer unless duplicates are
 // wanted. Labels that were put by hand come first and always stand.
 class LabelPainter {
@@ -52,17 +56,26 @@ class LabelPainter {
                LabelPoints& points);
 
   // No label lies on these places, in pixels, but those that may overlap others.
-  void keepOff(const std::vector<QRectF>& places) { taken_.insert(taken_.end(), places.begin(), places.end()); }
+  void keepOff(const std::vector<QRectF>& places) {
+    for (const QRectF& place : places) taken_.emplace_back(place);
+  }
   // The largest objects first.
   void paintLayer(const Layer& layer, std::vector<LabelCandidate> candidates);
 
  private:
-  // Whether the label found a place.
-  bool paintLabel(const LabelSettings& settings, const LabelCandidate& candidate, const QString& text, QPointF anchor);
-  [[nodiscard]] QPointF anchorOf(const LabelCandidate& candidate);
+  // Where a label hangs: a point of the picture, and the direction of its letters in degrees counter-clockwise.
+  struct Anchor {
+    QPointF at;
+    double degrees = 0;
+  };
+  // Whether the label found a place, which then is the last of `taken_`.
+  bool paintLabel(const Layer& layer, const LabelCandidate& candidate, const QString& text);
+  // Of a label of that width; not finite when nothing of the object is seen.
+  [[nodiscard]] Anchor anchorOf(const LabelCandidate& candidate, double width);
+  [[nodiscard]] Anchor lineAnchor(const ObjectPtr& line, double width);
   // Where the label of a region goes in pixels: inside the part of it that is seen. Not finite when nothing is.
   [[nodiscard]] QPointF regionAnchor(const ObjectPtr& region);
-  [[nodiscard]] bool isFree(const QRectF& box) const;
+  [[nodiscard]] bool isFree(const LabelBox& box) const;
 
   QPainter& painter_;
   const MapView& view_;
@@ -70,7 +83,7 @@ class LabelPainter {
   int level_;
   LabelTexts& texts_;
   LabelPoints& points_;
-  std::vector<QRectF> taken_;
+  std::vector<LabelBox> taken_;
 };
 
 }  // namespace motor

@@ -12,6 +12,7 @@ namespace motor {
 namespace {
 
 constexpr double kMostSquares = 32;  // along the longer side, at the start
+constexpr int kMostSteps = 4000;     // far more than any region needs
 
 double squaredDistance(QPointF p, QPointF a, QPointF b) {
   const QPointF d = b - a;
@@ -55,16 +56,18 @@ QPointF labelPoint(const std::vector<QPolygonF>& rings, double precision) {
   QRectF bounds;
   for (const QPolygonF& ring : rings) bounds = bounds.isNull() ? ring.boundingRect() : bounds | ring.boundingRect();
   const double longest = std::max(bounds.width(), bounds.height());
-  if (std::min(bounds.width(), bounds.height()) <= 0) return bounds.center();
+  if (!(std::min(bounds.width(), bounds.height()) > 0) || !std::isfinite(longest)) return bounds.center();
   const double side = std::max(std::min(bounds.width(), bounds.height()), longest / kMostSquares);
   std::priority_queue<Square> squares;
   const double half = side / 2;
-  for (double x = bounds.left(); x < bounds.right(); x += side) {
-    for (double y = bounds.top(); y < bounds.bottom(); y += side)
-      squares.emplace(rings, QPointF(x + half, y + half), half);
+  const auto squaresAlong = [side](double length) { return static_cast<int>(std::ceil(length / side)); };
+  for (int column = 0; column < squaresAlong(bounds.width()); ++column) {
+    for (int row = 0; row < squaresAlong(bounds.height()); ++row) {
+      squares.emplace(rings, bounds.topLeft() + QPointF(column * side + half, row * side + half), half);
+    }
   }
   Square best(rings, bounds.center(), 0);
-  while (!squares.empty()) {
+  for (int step = 0; step < kMostSteps && !squares.empty(); ++step) {
     const Square square = squares.top();
     squares.pop();
     if (square.bound - best.distance <= precision) break;

@@ -10,6 +10,16 @@
 namespace motor {
 namespace {
 
+TEST(LabelPoint, IsFoundInARegionThatIsHardlyWide) {
+  const QPointF least(4.5e6, 4.5e6);
+  const QPointF most(std::nextafter(4.5e6, 5e6), 4.5e6 + 1000);
+  const QPolygonF ring{least, {most.x(), least.y()}, most, {least.x(), most.y()}, least};
+  const QPointF point = labelPoint({ring}, 1e-3);
+  EXPECT_NEAR(point.x(), 4.5e6, 1e-6);
+  EXPECT_GE(point.y(), least.y());
+  EXPECT_LE(point.y(), most.y());
+}
+
 double distanceToOutline(const std::vector<QPolygonF>& rings, QPointF p) {
   double nearest = std::numeric_limits<double>::max();
   for (const QPolygonF& ring : rings) {

@@ -6,6 +6,7 @@
 
 #include "motor/drawing/colours.h"
 #include "motor/drawing/fonts.h"
+#include "motor/drawing/wrapped_text.h"
 
 namespace motor {
 
@@ -18,33 +19,27 @@ constexpr double kHeadingGap = 8;   // between titles and lines
 constexpr double kTitleGap = 2;     // between title and subtitle
 constexpr double kSectionGap = 16;  // between two themes
 constexpr double kWidestText = 340;
+constexpr double kWidestWord = 900;
+constexpr double kMostPoints = 36;
+constexpr int kMostPixels = 32'000;  // of a picture, which the painter reaches
 constexpr int kLeastWidth = 140;
 constexpr QColor kCount(90, 98, 112);
 
-// The words of a text in lines no wider than `room`; a word that is wider has a line of its own.
-QStringList wrapped(const QString& text, const QFontMetricsF& metrics, double room) {
-  QStringList lines;
-  for (const QString& paragraph : text.split('\n')) {
-    QString line;
-    for (const QString& word : paragraph.split(' ')) {
-      const QString longer = line.isEmpty() ? word : line + ' ' + word;
-      if (!line.isEmpty() && metrics.horizontalAdvance(longer) > room) {
-        lines.append(line);
-        line = word;
-      } else {
-        line = longer;
-      }
-    }
-    lines.append(line);
-  }
-  return lines;
+QStringList wrapped(const QString& text, const QFontMetricsF& metrics) {
+  return wrappedText(text, metrics, kWidestText, kWidestWord);
+}
+
+// A legend is read beside its map, however large its letters are wanted.
+QFont lettersOf(Font font) {
+  font.size = std::min(font.size, kMostPoints);
+  return toQFont(font);
 }
 
 double lineHeight(const QFontMetricsF& metrics) { return metrics.ascent() + metrics.descent(); }
 
 double heightOf(const QString& text, const QFont& font) {
   const QFontMetricsF metrics(font);
-  return lineHeight(metrics) * static_cast<double>(wrapped(text, metrics, kWidestText).size());
+  return lineHeight(metrics) * static_cast<double>(wrapped(text, metrics).size());
 }
 
 }  // namespace
@@ -63,7 +58,7 @@ Legend::Legend(const std::vector<LegendSection>& sections) {
 double Legend::place(const QString& text, const QFont& font, const QColor& colour, QPointF corner) {
   const QFontMetricsF metrics(font);
   double top = corner.y();
-  for (const QString& line : wrapped(text, metrics, kWidestText)) {
+  for (const QString& line : wrapped(text, metrics)) {
     // Whole pixels keep the letters sharp.
     texts_.push_back({line, font, colour, {corner.x(), std::round(top + metrics.ascent())}});
     right_ = std::max(right_, corner.x() + metrics.horizontalAdvance(line));
@@ -77,7 +72,7 @@ double Legend::placeHeading(const LegendSection& section, double top) {
   const auto placeTitle = [&](const QString& title, const Font& font) {
     if (title.isEmpty()) return;
     if (bottom > top) bottom += kTitleGap;
-    bottom = place(title, toQFont(font), toQColor(font.fore), {kMargin, bottom});
+    bottom = place(title, lettersOf(font), toQColor(font.fore), {kMargin, bottom});
   };
   placeTitle(section.title, section.titleFont);
   placeTitle(section.subtitle, section.subtitleFont);
@@ -87,7 +82,7 @@ double Legend::placeHeading(const LegendSection& section, double top) {
 void Legend::placeLine(const LegendLine& line, const Font& font, double swatchWidth, double top, double height) {
   if (line.swatch.kind != LegendSwatch::Kind::none)
     swatches_.push_back({line.swatch, QRectF(kMargin, top, swatchWidth, height)});
-  const QFont letters = toQFont(font);
+  const QFont letters = lettersOf(font);
   const double left = kMargin + (swatchWidth > 0 ? swatchWidth + kSwatchGap : 0);
   place(line.text, letters, toQColor(font.fore), {left, top + (height - heightOf(line.text, letters)) / 2});
   if (!line.count) return;
@@ -105,7 +100,7 @@ double Legend::placeLines(const LegendSection& section, double top) {
   double bottom = top;
   for (const LegendLine& line : section.lines) {
     if (bottom > top) bottom += kLineGap;
-    const double height = std::max(heightOf(line.text, toQFont(section.lineFont)), swatchSize(line.swatch).height());
+    const double height = std::max(heightOf(line.text, lettersOf(section.lineFont)), swatchSize(line.swatch).height());
     placeLine(line, section.lineFont, swatchWidth, bottom, height);
     bottom += height;
   }
@@ -127,7 +122,8 @@ void Legend::paint(QPainter& painter, double devicePixelRatio) const {
 QImage renderLegend(const Map& map, double devicePixelRatio) {
   Themes themes;
   const Legend legend(legendSections(map, themes));
-  QImage image((QSizeF(legend.size()) * devicePixelRatio).toSize(), QImage::Format_RGB32);
+  const QSize pixels = (QSizeF(legend.size()) * devicePixelRatio).toSize().boundedTo({kMostPixels, kMostPixels});
+  QImage image(pixels, QImage::Format_RGB32);
   image.setDevicePixelRatio(devicePixelRatio);
   image.fill(Qt::white);
   QPainter painter(&image);

@@ -14,8 +14,9 @@
 
 namespace motor {
 
-// The legend of a map, laid out: `legendSections` one below the other. It is as large as its texts need; only lines of
-// more than some thirty words' width are broken.
+// The legend of a map, laid out: `legendSections` one below the other. It is as large as its texts need and cuts none:
+// long texts are broken between words, a word that is wider than a legend may be between letters. Letters are at most
+// 36 points high.
 class Legend {
  public:
   explicit Legend(const std::vector<LegendSection>& sections);
@@ -48,7 +49,7 @@ class Legend {
   QSize size_;
 };
 
-// The legend of a map on white.
+// The legend of a map on white, up to 32,000 pixels high.
 [[nodiscard]] QImage renderLegend(const Map& map, double devicePixelRatio);
 
 }  // namespace motor

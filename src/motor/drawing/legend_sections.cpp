@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "motor/drawing/frame_sections.h"
 #include "motor/drawing/legend_lines.h"
 
 namespace motor {
@@ -82,15 +83,26 @@ LegendSwatch::Kind swatchOf(MapObject::Kind kind) {
   return LegendSwatch::Kind::none;
 }
 
+// The line of a layer that is no theme, if it has an object to show.
+void addLayer(LegendSection& section, const Layer& layer) {
+  const ObjectPtr sample = sampleOf(*layer.table);
+  if (sample == nullptr) return;
+  const LegendSwatch swatch{swatchOf(sample->kind), styleIn(layer, *sample), 0};
+  section.lines.push_back({swatch, QString::fromStdString(layer.name), std::nullopt});
+}
+
 LegendSection layersOf(const Map& map) {
   LegendSection section = plainSection();
   for (const Layer& layer : map.layers) {
-    if (layer.display == Display::off || !layer.table || layer.theme) continue;
-    const ObjectPtr sample = sampleOf(*layer.table);
-    if (sample == nullptr) continue;
-    const LegendSwatch swatch{swatchOf(sample->kind), styleIn(layer, *sample), 0};
-    section.lines.push_back({swatch, QString::fromStdString(layer.name), std::nullopt});
+    if (layer.display != Display::off && layer.table && !layer.theme) addLayer(section, layer);
   }
+  return section;
+}
+
+LegendSection sectionOfAny(const Layer& layer, Themes& themes) {
+  if (layer.theme) return sectionOf(layer, themes);
+  LegendSection section = plainSection();
+  addLayer(section, layer);
   return section;
 }
 
@@ -103,7 +115,9 @@ LegendSection saying(const QString& words) {
 }  // namespace
 
 std::vector<LegendSection> legendSections(const Map& map, Themes& themes) {
-  std::vector<LegendSection> sections;
+  std::vector<LegendSection> sections =
+      frameSections(map, [&themes](const Layer& layer) { return sectionOfAny(layer, themes); });
+  if (!sections.empty()) return sections;
   bool hasThemes = false;
   for (const Layer& layer : map.layers) {
     if (!layer.theme || !layer.table) continue;

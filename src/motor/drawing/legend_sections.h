@@ -27,8 +27,9 @@ struct LegendSection {
   std::vector<LegendLine> lines;
 };
 
-// What the legend of a map says, from the top down: its displayed themes as `Set Legend` wants them; of a map without
-// themes its displayed layers; a word where there is nothing to explain.
+// What the legend of a map says, from the top down: the frames of its cartographic legend; without those its displayed
+// themes as `Set Legend` wants them; of a map without themes its displayed layers; a word where there is nothing to
+// explain.
 [[nodiscard]] std::vector<LegendSection> legendSections(const Map& map, Themes& themes);
 
 }  // namespace motor

@@ -33,14 +33,11 @@ void paintRegion(QPainter& painter, const DrawnStyle& style, const QRectF& box, 
   }
 }
 
-void paintLine(QPainter& painter, const Pen& pen, const QRectF& box) {
+void paintSampleLine(QPainter& painter, const Pen& pen, const QRectF& box) {
   const QPolygonF line{QPointF(box.left(), box.bottom() - 2), QPointF(box.left() + 9, box.top() + 3),
                        QPointF(box.right() - 9, box.bottom() - 3), QPointF(box.right(), box.top() + 2)};
   painter.setBrush(Qt::NoBrush);
-  for (const QPen& stroke : penStrokes(pen)) {
-    painter.setPen(stroke);
-    painter.drawPolyline(line);
-  }
+  paintLine(painter, pen, line);
 }
 
 }  // namespace
@@ -62,7 +59,7 @@ void paintSwatch(QPainter& painter, const LegendSwatch& swatch, const QRectF& bo
       paintRegion(painter, swatch.style, inner, devicePixelRatio);
       break;
     case LegendSwatch::Kind::line:
-      paintLine(painter, swatch.style.pen, inner);
+      paintSampleLine(painter, swatch.style.pen, inner);
       break;
     case LegendSwatch::Kind::symbol: {
       Symbol symbol = swatch.style.symbol;

@@ -1,7 +1,9 @@
 #include "motor/drawing/map_painter.h"
 
+#include <cmath>
 #include <set>
 
+#include "motor/drawing/layer_marks.h"
 #include "motor/drawing/map_view.h"
 #include "motor/drawing/shape_painter.h"
 #include "motor/map/projected_objects.h"
@@ -19,6 +21,7 @@ void paintLayer(ShapePainter& shapes, const Map& map, const Layer& layer, const 
     const ObjectPtr& object = set->objects()[index];
     shapes.paint(object, styleIn(layer, *object));
   }
+  shapes.finishLayer();
 }
 
 // The labels that were put or changed by hand, and one for each other object where the layer labels by itself.
@@ -32,13 +35,14 @@ std::vector<LabelCandidate> candidatesOf(const Map& map, const Layer& layer, con
     const std::uint32_t index = set->indexOf(label.row);
     edited.insert(index);
     if (!label.visible) continue;
-    candidates.push_back({set->objects()[index], label.row, &label, std::nullopt});
+    candidates.push_back({set->objects()[index], label.row, &label, std::nullopt, std::nullopt});
     if (label.anchor) candidates.back().anchor = toMap(*label.anchor);
+    if (label.callout) candidates.back().callout = toMap(*label.callout);
   }
   if (!layer.label.automatic) return candidates;
   for (const std::uint32_t index : set->objectsIn(reach)) {
     if (edited.contains(index)) continue;
-    candidates.push_back({set->objects()[index], set->rowsOf(index).front(), nullptr, std::nullopt});
+    candidates.push_back({set->objects()[index], set->rowsOf(index).front(), nullptr, std::nullopt, std::nullopt});
   }
   return candidates;
 }
@@ -59,7 +63,8 @@ void keepOffSigns(std::vector<LabelCandidate>& candidates, const std::shared_ptr
 }  // namespace
 
 void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double devicePixelRatio, Quality quality) {
-  if (size.isEmpty() || !(map.unitsPerPixel() > 0)) return;
+  if (size.isEmpty() || !(map.unitsPerPixel() > 0) || !std::isfinite(map.centre.x) || !std::isfinite(map.centre.y))
+    return;
   const MapView view(map, size);
   const Box reach = reachOf(view);
   painter.save();
@@ -74,6 +79,7 @@ void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double de
     } else {
       const auto set = projectedObjects(layer.table, map.coordinateSystem);
       paintLayer(shapes, map, layer, reach, themes.coveredObjects(i, *set));
+      paintLayerMarks(painter, map, layer, view);
     }
   }
   if (map.cosmetic.table && map.cosmetic.isDrawnAt(map.zoomMetres)) paintLayer(shapes, map, map.cosmetic, reach, {});

@@ -3,17 +3,23 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <algorithm>
+#include <cmath>
 
 #include "motor/map/map.h"
 
 namespace motor {
 
 // What part of the world a picture shows: the map's centre and zoom on a picture of any size in logical pixels. The
-// zoom is the picture's width.
+// zoom is the picture's width; a zoom beyond what the coordinates of the centre can tell apart, or beyond all
+// coordinates, counts as the last one that is not.
 class MapView {
  public:
   MapView(const Map& map, QSizeF size)
-      : centre_(map.centre), unitsPerPixel_(map.unitsPerPixel() * map.pixelWidth / size.width()), size_(size) {}
+      : centre_(map.centre),
+        unitsPerPixel_(
+            std::clamp(map.unitsPerPixel() * map.pixelWidth / size.width(), leastUnits(map.centre), kMostUnits)),
+        size_(size) {}
 
   [[nodiscard]] double unitsPerPixel() const { return unitsPerPixel_; }
   [[nodiscard]] QRectF rect() const { return {QPointF(0, 0), size_}; }
@@ -33,6 +39,13 @@ class MapView {
   }
 
  private:
+  static constexpr double kMostUnits = 1e30;
+  // What can be told apart around a point, with some digits to spare for the picture.
+  [[nodiscard]] static double leastUnits(Point centre) {
+    constexpr double kPrecision = 1e-14;
+    return std::min(std::max({1.0, std::fabs(centre.x), std::fabs(centre.y)}) * kPrecision, kMostUnits);
+  }
+
   Point centre_;
   double unitsPerPixel_;
   QSizeF size_;

@@ -70,7 +70,7 @@ constexpr PenPattern kPatterns[] = {
     {56, {{{1, {}}}}, Arrow::both},
     {57, {{{1, {4, 2}}}}, Arrow::end},
     {58, {{{1, {4, 2}}}}, Arrow::start},
-    {59, {{{1, {}}}}, Arrow::end},
+    {59, {{{1, {}}}}, Arrow::end, true},
     {60, {{{1, {4, 2}}}}, Arrow::both},
     {61, {{{1, {8, 2, 2, 2}}}}, Arrow::end},
     {62, {{{1, {1, 2}}}}, Arrow::end},

@@ -19,6 +19,7 @@ struct PenPattern {
   int number = 0;
   std::array<PatternStroke, 3> strokes = {};
   Arrow arrow = Arrow::none;
+  bool openHead = false;  // the arrow's head is two strokes, not a filled triangle
 };
 
 // The pattern of a number 2-118; the solid one for any other.

@@ -9,6 +9,7 @@
 #include "motor/drawing/halo_text.h"
 #include "motor/drawing/pens.h"
 #include "motor/drawing/symbols.h"
+#include "motor/drawing/turns.h"
 
 namespace motor {
 
@@ -16,9 +17,16 @@ namespace {
 
 constexpr double kFarOutside = 2000;  // pixels beyond the picture from which on parts are cut
 constexpr double kCutMargin = 100;    // and how far beyond it they are cut
-constexpr double kSeam = 0.7;         // pixels that a fill without border grows to meet its neighbour
+constexpr double kLeastBorder = 1;    // device pixels, of a border that hides the seam
+constexpr double kSeam = 1.5;         // device pixels: the line around a fill that closes the seam to its neighbour
 
 QRectF grown(const QRectF& rect, double by) { return rect.adjusted(-by, -by, by, by); }
+
+// False also for a box that is no place.
+bool liesIn(const QRectF& room, const QRectF& box) {
+  return box.left() >= room.left() && box.right() <= room.right() && box.top() >= room.top() &&
+         box.bottom() <= room.bottom();
+}
 
 std::vector<QPolygonF> cut(const std::vector<QPolygonF>& parts, const QRectF& area, bool rings) {
   std::vector<QPolygonF> result;
@@ -30,6 +38,10 @@ std::vector<QPolygonF> cut(const std::vector<QPolygonF>& parts, const QRectF& ar
     }
   }
   return result;
+}
+
+bool leavesNoGaps(const Brush& brush) {
+  return brush.pattern == 2 || (brush.pattern > 2 && brush.back != kTransparent);
 }
 
 QPainterPath pathOf(const std::vector<QPolygonF>& rings) {
@@ -67,7 +79,7 @@ std::vector<QPolygonF> pixelParts(const MapObject& object, const SimplifiedShape
     }
     parts.push_back(std::move(part));
   }
-  if (grown(view.rect(), kFarOutside).contains(view.toPixels(object.bounds))) return parts;
+  if (liesIn(grown(view.rect(), kFarOutside), view.toPixels(object.bounds))) return parts;
   return cut(parts, grown(view.rect(), kCutMargin), object.kind == MapObject::Kind::region);
 }
 
@@ -78,7 +90,8 @@ ShapePainter::ShapePainter(QPainter& painter, const MapView& view, SimplifiedPat
       devicePixelRatio_(devicePixelRatio),
       level_(simplificationLevel(view.unitsPerPixel() / devicePixelRatio)),
       strokes_(penStrokes(pen_)),
-      fill_(toQBrush(brush_, devicePixelRatio)) {}
+      fill_(toQBrush(brush_, devicePixelRatio)),
+      fillIsClosed_(leavesNoGaps(brush_)) {}
 
 void ShapePainter::usePen(const Pen& pen) {
   if (pen == pen_) return;
@@ -90,12 +103,13 @@ void ShapePainter::useBrush(const Brush& brush) {
   if (brush == brush_) return;
   brush_ = brush;
   fill_ = toQBrush(brush, devicePixelRatio_);
+  fillIsClosed_ = leavesNoGaps(brush);
 }
 
 void ShapePainter::paint(const ObjectPtr& object, const DrawnStyle& style) {
   switch (object->kind) {
     case MapObject::Kind::point:
-      for (const Point& p : object->points) paintSymbol(painter_, style.symbol, view_.toPixel(p));
+      paintPoints(*object, style.symbol);
       break;
     case MapObject::Kind::text:
       paintText(*object, style.font);
@@ -109,48 +123,95 @@ void ShapePainter::paint(const ObjectPtr& object, const DrawnStyle& style) {
   }
 }
 
-void ShapePainter::paintRegion(const std::vector<QPolygonF>& rings, const DrawnStyle& style) {
-  usePen(style.pen);
-  useBrush(style.brush);
-  const bool filled = fill_.style() != Qt::NoBrush;
-  if (rings.empty() || (!filled && strokes_.empty())) return;
+void ShapePainter::finishLayer() {
+  std::size_t most = 0;
+  for (const WaitingLines& waiting : waiting_) most = std::max(most, penStrokes(waiting.pen).size());
+  painter_.setBrush(Qt::NoBrush);
+  for (std::size_t i = 0; i < most; ++i) {
+    for (const WaitingLines& waiting : waiting_) {
+      usePen(waiting.pen);
+      if (i >= strokes_.size()) continue;
+      for (const QPolygonF& line : waiting.lines) {
+        drawStroke(painter_, strokes_[i], waiting.closed ? line : shaftOf(pen_, line));
+      }
+    }
+  }
+  for (const WaitingLines& waiting : waiting_) {
+    if (waiting.closed) continue;
+    for (const QPolygonF& line : waiting.lines) paintArrowHeads(painter_, waiting.pen, line);
+  }
+  waiting_.clear();
+}
+
+void ShapePainter::paintPoints(const MapObject& object, const Symbol& symbol) {
+  const QRectF reach = grown(view_.rect(), kFarOutside);
+  for (const Point& p : object.points) {
+    const QPointF at = view_.toPixel(p);
+    if (reach.contains(at)) paintSymbol(painter_, symbol, at);
+  }
+}
+
+// Two smooth edges side by side let the ground shine through: a fill reaches over its own edge, so far that a pixel
+// which its edge crosses is covered by the line around it.
+QPen ShapePainter::seamPen() const {
+  const bool mayGape = fillIsClosed_ && painter_.testRenderHint(QPainter::Antialiasing);
+  return mayGape ? QPen(fill_, kSeam / devicePixelRatio_, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin) : QPen(Qt::NoPen);
+}
+
+void ShapePainter::paintFill(const std::vector<QPolygonF>& rings, const QPen& outline) {
   painter_.setBrush(fill_);
-  QPen first = strokes_.empty() ? QPen(Qt::NoPen) : strokes_.front();
-  // Two smooth edges side by side let the ground shine through; a fill without a border overlaps its neighbour a
-  // little.
-  const bool mayGape = painter_.testRenderHint(QPainter::Antialiasing) && fill_.style() == Qt::SolidPattern;
-  if (strokes_.empty() && mayGape) first = QPen(fill_.color(), kSeam);
-  painter_.setPen(first);
+  painter_.setPen(outline);
   if (rings.size() == 1) {
     painter_.drawPolygon(rings.front());
   } else {
     painter_.drawPath(pathOf(rings));
   }
-  for (std::size_t i = 1; i < strokes_.size(); ++i) {
-    painter_.setPen(strokes_[i]);
-    for (const QPolygonF& ring : rings) painter_.drawPolyline(ring);
+}
+
+void ShapePainter::paintRegion(std::vector<QPolygonF> rings, const DrawnStyle& style) {
+  usePen(style.pen);
+  useBrush(style.brush);
+  const bool filled = fill_.style() != Qt::NoBrush;
+  if (rings.empty() || (!filled && strokes_.empty())) return;
+  const bool waits = isInterleaved(pen_) && !strokes_.empty();
+  // A border that covers the whole seam is drawn along with the fill.
+  const bool coversSeam = !waits && !strokes_.empty() && strokes_.front().style() == Qt::SolidLine &&
+                          strokes_.front().widthF() * devicePixelRatio_ >= kLeastBorder;
+  if (filled || coversSeam) paintFill(rings, coversSeam ? strokes_.front() : seamPen());
+  if (waits) {
+    waiting_.push_back({pen_, std::move(rings), true});
+    return;
+  }
+  painter_.setBrush(Qt::NoBrush);
+  for (std::size_t i = coversSeam ? 1 : 0; i < strokes_.size(); ++i) {
+    for (const QPolygonF& ring : rings) drawStroke(painter_, strokes_[i], ring);
   }
 }
 
-void ShapePainter::paintLines(const std::vector<QPolygonF>& lines, const Pen& pen) {
+void ShapePainter::paintLines(std::vector<QPolygonF> lines, const Pen& pen) {
   usePen(pen);
+  if (strokes_.empty() || lines.empty()) return;
+  if (isInterleaved(pen)) {
+    waiting_.push_back({pen, std::move(lines), false});
+    return;
+  }
   for (const QPen& stroke : strokes_) {
-    painter_.setPen(stroke);
-    for (const QPolygonF& line : lines) painter_.drawPolyline(line);
+    for (const QPolygonF& line : lines) drawStroke(painter_, stroke, shaftOf(pen, line));
   }
   for (const QPolygonF& line : lines) paintArrowHeads(painter_, pen, line);
 }
 
-// A font without a size of its own grows with the map.
 void ShapePainter::paintText(const MapObject& object, const Font& font) {
   if (object.points.empty()) return;
   const QStringList lines = QString::fromStdString(object.text).split('\n');
   const double height = font.size > 0 ? font.size * kPixelsPerPoint : object.lineHeight / view_.unitsPerPixel();
   if (!(height >= 2 && height < 4 * view_.rect().height())) return;
+  const QPointF corner = view_.toPixel(object.points.front());
+  if (!grown(view_.rect(), kFarOutside + height).contains(corner)) return;
   const HaloText text(lines, font, height);
   painter_.save();
-  painter_.translate(view_.toPixel(object.points.front()));
-  painter_.rotate(-object.angle);
+  painter_.translate(corner);
+  painter_.rotate(-turnOf(object.angle));
   text.paint(painter_, {0, -text.size().height()}, Qt::AlignLeft);
   painter_.restore();
 }

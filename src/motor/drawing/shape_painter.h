@@ -27,19 +27,31 @@ struct DrawnStyle {
                                                 const MapView& view);
 
 // Paints objects of the map's coordinate system one by one. Changing the painter's pens and brushes between two objects
-// is left to it.
+// is left to it. What has no place in the picture, such as a point that is not a number, is left out.
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, double devicePixelRatio);
 
   void paint(const ObjectPtr& object, const DrawnStyle& style);
+  // Draws the lines and borders of interleaved pens, which wait for all objects of their layer.
+  void finishLayer();
   // The zoom level whose shapes are painted.
   [[nodiscard]] int level() const { return level_; }
 
  private:
-  void paintRegion(const std::vector<QPolygonF>& rings, const DrawnStyle& style);
-  void paintLines(const std::vector<QPolygonF>& lines, const Pen& pen);
+  // Lines whose strokes are drawn when all lines of the layer are known.
+  struct WaitingLines {
+    Pen pen;
+    std::vector<QPolygonF> lines;
+    bool closed = false;
+  };
+  void paintPoints(const MapObject& object, const Symbol& symbol);
+  void paintRegion(std::vector<QPolygonF> rings, const DrawnStyle& style);
+  void paintFill(const std::vector<QPolygonF>& rings, const QPen& outline);
+  void paintLines(std::vector<QPolygonF> lines, const Pen& pen);
   void paintText(const MapObject& object, const Font& font);
+  // The pen around a fill that closes the seam to its neighbours.
+  [[nodiscard]] QPen seamPen() const;
   void usePen(const Pen& pen);
   void useBrush(const Brush& brush);
 
@@ -53,6 +65,8 @@ class ShapePainter {
   std::vector<QPen> strokes_;
   Brush brush_;
   QBrush fill_;
+  bool fillIsClosed_ = false;  // without gaps through which the ground is to be seen
+  std::vector<WaitingLines> waiting_;
 };
 
 }  // namespace motor

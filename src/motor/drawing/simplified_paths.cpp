@@ -8,7 +8,11 @@ namespace motor {
 namespace {
 
 constexpr std::size_t kKeptLevels = 3;
-constexpr int kGridBits = 30;  // grid coordinates stay below two to this power
+constexpr int kGridBits = 30;        // grid coordinates stay below two to this power
+constexpr int kNumberBits = 52;      // of a number's mantissa
+constexpr double kFarthest = 1e100;  // units; what lies farther away is no place
+constexpr int kLeastLevel = -500;
+constexpr int kMostLevel = 500;
 
 using GridPoint = SimplifiedShape::GridPoint;
 
@@ -27,28 +31,46 @@ void append(std::vector<GridPoint>& points, std::size_t partBegin, GridPoint nex
   points.push_back(next);
 }
 
-// The finest level from `level` on whose grid coordinates fit.
+bool isOnEarth(Point p) { return std::fabs(p.x) <= kFarthest && std::fabs(p.y) <= kFarthest; }
+
+Box boundsOf(const MapObject& object) {
+  Box bounds;
+  for (const Point& p : object.points) {
+    if (isOnEarth(p)) bounds.add(p);
+  }
+  return bounds;
+}
+
+int exponentOf(double size) { return size > 0 ? std::ilogb(size) : kLeastLevel; }
+
+// The finest level from `level` on whose grid coordinates fit and are told apart by a number at that distance from the
+// origin.
 int fittingLevel(const Box& bounds, int level) {
   const double side = std::max(bounds.maxX - bounds.minX, bounds.maxY - bounds.minY);
-  if (side <= 0) return level;
-  return std::max(level, std::ilogb(side) + 1 - kGridBits);
+  const double farthest =
+      std::max({std::fabs(bounds.minX), std::fabs(bounds.maxX), std::fabs(bounds.minY), std::fabs(bounds.maxY)});
+  return std::max({level, kLeastLevel, exponentOf(side) + 1 - kGridBits, exponentOf(farthest) - kNumberBits});
 }
 
 }  // namespace
 
-int simplificationLevel(double unitsPerDevicePixel) { return std::ilogb(unitsPerDevicePixel) - 1; }
+int simplificationLevel(double unitsPerDevicePixel) {
+  return std::clamp(std::ilogb(unitsPerDevicePixel) - 1, kLeastLevel, kMostLevel);
+}
 
 SimplifiedShape simplify(const MapObject& object, int level) {
   SimplifiedShape shape;
-  shape.step = std::ldexp(1.0, fittingLevel(object.bounds, level));
-  const double originX = std::floor(object.bounds.minX / shape.step);
-  const double originY = std::floor(object.bounds.minY / shape.step);
+  const Box bounds = boundsOf(object);
+  if (bounds.isEmpty()) return shape;
+  shape.step = std::ldexp(1.0, fittingLevel(bounds, level));
+  const double originX = std::floor(bounds.minX / shape.step);
+  const double originY = std::floor(bounds.minY / shape.step);
   shape.origin = {originX * shape.step, originY * shape.step};
   for (std::size_t part = 0; part < object.partCount(); ++part) {
     const std::size_t begin = shape.points.size();
     for (std::size_t i = object.parts[part]; i < object.partEnd(part); ++i) {
       const Point p = object.points[i];
-      if (!std::isfinite(p.x) || !std::isfinite(p.y)) continue;
+      if (!isOnEarth(p)) continue;
       append(shape.points, begin,
              {static_cast<std::int32_t>(std::nearbyint(p.x / shape.step) - originX),
               static_cast<std::int32_t>(std::nearbyint(p.y / shape.step) - originY)});

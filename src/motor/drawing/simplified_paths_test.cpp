@@ -53,6 +53,20 @@ TEST(SimplifiedPaths, GridCoordinatesOfAHugeObjectFit) {
   EXPECT_NEAR(shape.at(1).y, 2e7, 1);
 }
 
+TEST(SimplifiedPaths, TakesAnyZoomAndLeavesOutWhatIsNowhere) {
+  EXPECT_GT(simplificationLevel(1e300), 0);
+  EXPECT_LT(simplificationLevel(1e-300), 0);
+  const double nan = std::nan("");
+  const ObjectPtr object =
+      small::line({{4.5e6, 4.5e6}, {nan, 0}, {4.5e6 + 1e-9, 4.5e6}, {1e200, 0}, {4.5e6 + 10, 4.5e6}}, Pen{});
+  for (const int level : {-500, -60, 0}) {
+    const SimplifiedShape shape = simplify(*object, level);
+    ASSERT_GE(shape.points.size(), 2U) << level;
+    EXPECT_NEAR(shape.at(shape.points.size() - 1).x, 4.5e6 + 10, 1e-3) << level;
+  }
+  EXPECT_TRUE(simplify(*small::line({{nan, 0}, {0, nan}}, Pen{}), 0).points.empty());
+}
+
 TEST(SimplifiedPaths, MakesEachShapeOnceALevelAndKeepsThreeLevels) {
   SimplifiedPaths paths;
   const ObjectPtr object = small::line({{0, 0}, {50, 50}}, Pen{});

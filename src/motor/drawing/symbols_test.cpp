@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <set>
 #include <string>
 
 #include "motor/drawing/small_pictures.h"
+#include "motor/drawing/symbol_pictures.h"
 #include "motor/drawing/symbol_shapes.h"
 
 namespace motor {
@@ -75,6 +78,88 @@ TEST(Symbols, CharactersOfAMissingFontAreDiscs) {
   EXPECT_EQ(stamped(character), stamped(disc));
   character.font = "DejaVu Sans";
   EXPECT_NE(stamped(character), stamped(disc));
+}
+
+TEST(Symbols, ShadowsAndBordersAddInk) {
+  Symbol character;
+  character.shape = 0x25CF;  // a disc
+  character.font = "DejaVu Sans";
+  character.colour = 0xFFFFFF;
+  EXPECT_EQ(stamped(character), blank({40, 40}));
+  for (const int style : {16, 32}) {
+    character.style = style;
+    EXPECT_NE(stamped(character), blank({40, 40})) << style;
+  }
+}
+
+TEST(Symbols, HaveASizeThatCanBeDrawn) {
+  Symbol square;
+  square.shape = 32;
+  square.colour = kInkColour;
+  square.size = 1'000'000;
+  EXPECT_EQ(countOf(stamped(square), kInk), 40 * 40);
+  square.size = 0;
+  EXPECT_EQ(stamped(square), blank({40, 40}));
+}
+
+// A folder with one picture: red on white, ten pixels wide and high, six of them red.
+class SymbolPictures : public ::testing::Test {
+ protected:
+  SymbolPictures() {
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    for (int y = 2; y < 8; ++y) {
+      for (int x = 2; x < 8; ++x) image.setPixel(x, y, 0xFF000000);
+    }
+    EXPECT_TRUE(image.save(folder_.filePath("casa.bmp")));
+    QDir::setSearchPaths(kSymbolFolders, {folder_.path()});
+    symbol_.colour = kInkColour;
+    symbol_.size = 15;  // 20 pixels
+    symbol_.file = "casa.bmp";
+  }
+  ~SymbolPictures() override { QDir::setSearchPaths(kSymbolFolders, {}); }
+
+  // On a ground that is not white.
+  [[nodiscard]] QImage onGround() const {
+    return picture({40, 40}, 1, [&](QPainter& painter) {
+      painter.fillRect(0, 0, 40, 40, Qt::yellow);
+      paintSymbol(painter, symbol_, {20, 20});
+    });
+  }
+
+  QTemporaryDir folder_;
+  Symbol symbol_;
+};
+
+TEST_F(SymbolPictures, AreOpenWhereTheyAreWhite) {
+  const QImage image = onGround();
+  EXPECT_EQ(image.pixel(20, 20), 0xFF000000);
+  EXPECT_EQ(image.pixel(11, 11), 0xFFFFFF00);
+  symbol_.style = 1;
+  EXPECT_EQ(onGround().pixel(11, 11), 0xFFFFFFFF);
+}
+
+TEST_F(SymbolPictures, TakeTheSymbolsColour) {
+  symbol_.style = 2;
+  EXPECT_EQ(onGround().pixel(20, 20), kInk);
+}
+
+TEST_F(SymbolPictures, HaveTheSymbolsSizeOrTheirOwn) {
+  EXPECT_EQ(onGround().pixel(15, 15), 0xFF000000) << "twelve of twenty pixels are black";
+  symbol_.style = 4;
+  EXPECT_EQ(onGround().pixel(15, 15), 0xFFFFFF00) << "six of ten are";
+  EXPECT_EQ(onGround().pixel(18, 18), 0xFF000000);
+}
+
+TEST_F(SymbolPictures, AreReadFromTheirFoldersOnly) {
+  Symbol disc = symbol_;
+  disc.file.clear();
+  disc.shape = 34;
+  for (const std::string& file : {std::string("nada.bmp"), std::string("../casa.bmp"),
+                                  folder_.filePath("casa.bmp").toStdString(), std::string("symbols:casa.bmp")}) {
+    symbol_.file = file;
+    EXPECT_EQ(stamped(symbol_), stamped(disc)) << file;
+  }
 }
 
 }  // namespace

@@ -53,6 +53,7 @@ void ThemePainter::paintClasses(std::size_t number, const ClassTheme& theme) {
     const ObjectPtr& object = set->objects()[index];
     shapes_.paint(object, theme.shaded(*itsClass, *object, styleIn(base, *object)));
   }
+  shapes_.finishLayer();
 }
 
 template <typename Visit>

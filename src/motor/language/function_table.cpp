@@ -74,6 +74,12 @@ Value FunctionTable::Function::call(const FunctionCall& function, std::span<cons
   return result;
 }
 
+std::vector<FunctionTable::Signature> FunctionTable::signatures() const {
+  std::vector<Signature> all;
+  for (const auto& [name, function] : functions_) all.push_back({name, function.minimum_, function.maximum_});
+  return all;
+}
+
 const FunctionTable::Function& FunctionTable::find(const FunctionCall& function) const {
   const auto found = functions_.find(text::lower(function.name()));
   if (found == functions_.end()) {

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "motor/language/expressions/function_call.h"
 
@@ -81,6 +82,14 @@ class FunctionTable {
     std::size_t maximum_ = 0;
     std::function<Value(const Arguments&)> run_;
   };
+
+  // The functions there are, by name.
+  struct Signature {
+    std::string name;  // in lower case
+    std::size_t minimum;
+    std::size_t maximum;  // arguments
+  };
+  [[nodiscard]] std::vector<Signature> signatures() const;
 
   // Throws LanguageError at the call for a function that does not exist. Good until the table is assigned to.
   [[nodiscard]] const Function& find(const FunctionCall& function) const;

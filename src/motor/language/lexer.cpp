@@ -26,11 +26,13 @@ class Lexer {
 
   std::vector<Token> run() {
     std::vector<Token> tokens;
-    tokens.reserve(source_.size() / 4 + 2);
+    tokens.reserve(std::min(source_.size() / 4 + 2, kMostTokens));
     for (;;) {
       skipBlanksAndComments();
       tokens.push_back(read());
       if (tokens.back().kind == Token::Kind::end) return tokens;
+      if (tokens.size() > kMostTokens)
+        throw LanguageError(tokens.back().position, tokens.back().text, "el texto tiene demasiadas palabras");
     }
   }
 

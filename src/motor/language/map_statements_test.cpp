@@ -40,8 +40,6 @@ TEST(SetMapTest, changesTheView) {
   EXPECT_EQ(map.preserve, SetMap::Preserve::zoom);
   EXPECT_EQ(map.status, SetMap::Status::position);
   EXPECT_EQ(map.distanceUnit + "/" + map.areaUnit + "/" + map.xyUnit, "km/sq km/m");
-  EXPECT_EQ(map.redraw, false);
-  EXPECT_TRUE(map.clipping);
   EXPECT_EQ(map.order.size(), 3U);
   EXPECT_TRUE(map.layers.empty());
   EXPECT_FALSE(map.window);
@@ -105,7 +103,6 @@ TEST(SetMapTest, readsLayersInOrder) {
   EXPECT_EQ(map.layers[2].arrows, true);
   EXPECT_EQ(map.layers[2].nodes, false);
   EXPECT_EQ(map.layers[2].centroids, true);
-  EXPECT_TRUE(map.layers[2].defaultZoom);
 }
 
 TEST(SetMapTest, knowsTheFormsThatTheProgramSends) {
@@ -145,12 +142,9 @@ TEST(LabelClauseTest, isRead) {
   EXPECT_TRUE(label.pen);
   EXPECT_EQ(label.with->text, "\"Cota: \"+Alt");
   EXPECT_EQ(label.parallel, false);
-  EXPECT_EQ(label.followPath, true);
   EXPECT_EQ(label.automatic, true);
   EXPECT_EQ(label.overlap, false);
-  EXPECT_EQ(label.partialSegments, true);
   EXPECT_EQ(label.duplicates, false);
-  EXPECT_EQ(shown(label.maximum), "6");
   EXPECT_EQ(shown(label.offset), "5");
   EXPECT_EQ(label.visibility, LabelClause::Visibility::zoom);
   EXPECT_EQ(shown(label.visibilityZoom->maximum), "2000");
@@ -180,9 +174,8 @@ TEST(LabelClauseTest, switchesOnAndOff) {
   EXPECT_EQ(label("Visibility On").visibility, LabelClause::Visibility::on);
   EXPECT_EQ(label("Visibility Off").visibility, LabelClause::Visibility::off);
   EXPECT_EQ(label("Auto Off").automatic, false);
-  EXPECT_EQ(label("Auto Retry On").retry, true);
   EXPECT_FALSE(label("Auto Retry On").automatic);
-  EXPECT_TRUE(label("Max Overlap On").unlimited);
+  EXPECT_EQ(label("Max Overlap On").overlap, true);
   EXPECT_EQ(label("Line None").line, LabelLine::none);
 }
 

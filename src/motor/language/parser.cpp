@@ -9,27 +9,11 @@ namespace motor {
 
 namespace {
 
-// Whether these words (the later ones may be null) come next after `ahead` tokens.
-bool areNext(const TokenStream& stream, std::size_t ahead, std::initializer_list<const char*> words) {
-  for (const char* word : words) {
-    if (word == nullptr) return true;
-    if (!stream.isWord(word, ahead++)) return false;
-  }
-  return true;
-}
-
-template <typename Rule>
-bool begins(const TokenStream& stream, const Rule& rule) {
-  return areNext(stream, 0, {rule.first, rule.second});
-}
-bool begins(const TokenStream& stream, const StatementRule& rule) {
-  return areNext(stream, 0, {rule.first, rule.second, rule.third});
-}
-
 // The first rule whose words come next, or null.
 template <typename Rule>
 const Rule* findRule(std::span<const Rule> rules, const TokenStream& stream) {
-  const auto found = std::find_if(rules.begin(), rules.end(), [&](const Rule& rule) { return begins(stream, rule); });
+  const auto found =
+      std::find_if(rules.begin(), rules.end(), [&](const Rule& rule) { return stream.wordsNext(rule.words) > 0; });
   return found == rules.end() ? nullptr : &*found;
 }
 
@@ -42,10 +26,11 @@ bool isStatement(const TokenStream& stream) {
          findRule(refusedRules(), stream) != nullptr;
 }
 
-std::string readWords(TokenStream& stream, const char* second) {
+// Reads a statement's own words; gives them as written.
+std::string readWords(TokenStream& stream, const char* words) {
   const std::size_t first = stream.index();
-  stream.next();
-  if (second != nullptr) stream.next();
+  stream.beginStatement(words);
+  stream.skip(stream.wordsNext(words));
   return stream.written(first);
 }
 
@@ -63,19 +48,20 @@ void skip(TokenStream& stream) {
 Statement parseStatement(TokenStream& stream) {
   const Position position = stream.position();
   if (const StatementRule* rule = findRule(statementRules(), stream)) {
-    readWords(stream, rule->second);
-    if (rule->third != nullptr) stream.next();
+    readWords(stream, rule->words);
     return rule->parse(stream, position);
   }
   if (const PassedOverRule* rule = findRule(passedOverRules(), stream)) {
-    std::string name = readWords(stream, rule->second);
+    std::string name = readWords(stream, rule->words);
+    stream.passOver(position, {});
+    const TokenStream::Quiet quiet(stream);
     rule->read(stream);
     return PassedOver{position, std::move(name)};
   }
   if (const RefusedRule* rule = findRule(refusedRules(), stream)) {
-    std::string name = readWords(stream, rule->second);
+    std::string name = readWords(stream, rule->words);
     skip(stream);
-    return Refused{position, std::move(name)};
+    return Refused{position, std::move(name), rule->reason};
   }
   if (isAssignment(stream)) return parseAssignment(stream, position);
   stream.failExpecting("el principio de una instrucción");
@@ -83,11 +69,16 @@ Statement parseStatement(TokenStream& stream) {
 
 }  // namespace
 
-std::vector<Statement> parseProgram(std::string_view source, Position start) {
+Program parseProgramWhole(std::string_view source, Position start) {
   TokenStream stream(source, start);
-  std::vector<Statement> statements;
-  while (!stream.atEnd()) statements.push_back(parseStatement(stream));
-  return statements;
+  Program program;
+  while (!stream.atEnd()) program.statements.push_back(parseStatement(stream));
+  program.passedOver = stream.passedOver();
+  return program;
+}
+
+std::vector<Statement> parseProgram(std::string_view source, Position start) {
+  return parseProgramWhole(source, start).statements;
 }
 
 ExpressionPtr parseExpression(std::string_view source) {

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 
 #include "motor/language/charset.h"
@@ -39,6 +40,12 @@ Value logarithm(const Arguments& a) {
   if (a.number(0) <= 0) a.reject(0, "tiene que ser mayor que cero");
   return std::log(a.number(0));
 }
+
+// Angles are in radians.
+Value sine(const Arguments& a) { return std::sin(a.number(0)); }
+Value cosine(const Arguments& a) { return std::cos(a.number(0)); }
+Value tangent(const Arguments& a) { return std::tan(a.number(0)); }
+Value arcTangent(const Arguments& a) { return std::atan(a.number(0)); }
 
 Value greatest(const Arguments& a) { return std::max(a.number(0), a.number(1)); }
 Value least(const Arguments& a) { return std::min(a.number(0), a.number(1)); }
@@ -176,22 +183,66 @@ double numberOrSpelled(const Arguments& a) {
   a.reject(0, "el texto no es un número");
 }
 
+// --- dates, texts of the form 20021231 ---
+
+Value today(const Arguments& /*a*/) {
+  const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()));
+  const int number = static_cast<int>(date.year()) * 10000 +
+                     static_cast<int>(static_cast<unsigned>(date.month())) * 100 +
+                     static_cast<int>(static_cast<unsigned>(date.day()));
+  return std::to_string(number);
+}
+
+// Digits of a date; a text that is none has no value.
+template <std::size_t kFirst, std::size_t kCount>
+Value partOfDate(const Arguments& a) {
+  const std::string date = a.text(0);
+  constexpr std::size_t kLength = 8;
+  if (date.size() < kLength ||
+      !std::all_of(date.begin(), date.begin() + kLength, [](char c) { return c >= '0' && c <= '9'; }))
+    a.reject(0, "se esperaba una fecha");
+  return std::stoi(date.substr(kFirst, kCount));
+}
+
 constexpr std::array kFunctions = {
-    FunctionEntry{"abs", 1, 1, absolute},     FunctionEntry{"asc", 1, 1, codeOf},
-    FunctionEntry{"chr$", 1, 1, character},   FunctionEntry{"exp", 1, 1, exponential},
-    FunctionEntry{"fix", 1, 1, fix},          FunctionEntry{"format$", 2, 2, formatted},
-    FunctionEntry{"instr", 3, 3, positionOf}, FunctionEntry{"int", 1, 1, integerPart},
-    FunctionEntry{"lcase$", 1, 1, lowerCase}, FunctionEntry{"left$", 2, 2, leftPart},
-    FunctionEntry{"len", 1, 1, lengthOf},     FunctionEntry{"like", 2, 3, like},
-    FunctionEntry{"log", 1, 1, logarithm},    FunctionEntry{"ltrim$", 1, 1, withoutLeadingBlanks},
-    FunctionEntry{"maximum", 2, 2, greatest}, FunctionEntry{"mid$", 3, 3, middlePart},
-    FunctionEntry{"minimum", 2, 2, least},    FunctionEntry{"proper$", 1, 1, properCase},
-    FunctionEntry{"rgb", 3, 3, colour},       FunctionEntry{"right$", 2, 2, rightPart},
-    FunctionEntry{"round", 2, 2, roundTo},    FunctionEntry{"rtrim$", 1, 1, withoutTrailingBlanks},
-    FunctionEntry{"sgn", 1, 1, signOf},       FunctionEntry{"space$", 1, 1, blanks},
-    FunctionEntry{"sqr", 1, 1, squareRoot},   FunctionEntry{"str$", 1, 1, textOf},
-    FunctionEntry{"string$", 2, 2, repeated}, FunctionEntry{"stringcompare", 2, 2, compareExactly},
-    FunctionEntry{"ucase$", 1, 1, upperCase}, FunctionEntry{"val", 1, 1, numberIn},
+    FunctionEntry{"atn", 1, 1, arcTangent},
+    FunctionEntry{"cos", 1, 1, cosine},
+    FunctionEntry{"curdate", 0, 0, today},
+    FunctionEntry{"day", 1, 1, partOfDate<6, 2>},
+    FunctionEntry{"month", 1, 1, partOfDate<4, 2>},
+    FunctionEntry{"sin", 1, 1, sine},
+    FunctionEntry{"tan", 1, 1, tangent},
+    FunctionEntry{"year", 1, 1, partOfDate<0, 4>},
+    FunctionEntry{"abs", 1, 1, absolute},
+    FunctionEntry{"asc", 1, 1, codeOf},
+    FunctionEntry{"chr$", 1, 1, character},
+    FunctionEntry{"exp", 1, 1, exponential},
+    FunctionEntry{"fix", 1, 1, fix},
+    FunctionEntry{"format$", 2, 2, formatted},
+    FunctionEntry{"instr", 3, 3, positionOf},
+    FunctionEntry{"int", 1, 1, integerPart},
+    FunctionEntry{"lcase$", 1, 1, lowerCase},
+    FunctionEntry{"left$", 2, 2, leftPart},
+    FunctionEntry{"len", 1, 1, lengthOf},
+    FunctionEntry{"like", 2, 3, like},
+    FunctionEntry{"log", 1, 1, logarithm},
+    FunctionEntry{"ltrim$", 1, 1, withoutLeadingBlanks},
+    FunctionEntry{"maximum", 2, 2, greatest},
+    FunctionEntry{"mid$", 3, 3, middlePart},
+    FunctionEntry{"minimum", 2, 2, least},
+    FunctionEntry{"proper$", 1, 1, properCase},
+    FunctionEntry{"rgb", 3, 3, colour},
+    FunctionEntry{"right$", 2, 2, rightPart},
+    FunctionEntry{"round", 2, 2, roundTo},
+    FunctionEntry{"rtrim$", 1, 1, withoutTrailingBlanks},
+    FunctionEntry{"sgn", 1, 1, signOf},
+    FunctionEntry{"space$", 1, 1, blanks},
+    FunctionEntry{"sqr", 1, 1, squareRoot},
+    FunctionEntry{"str$", 1, 1, textOf},
+    FunctionEntry{"string$", 2, 2, repeated},
+    FunctionEntry{"stringcompare", 2, 2, compareExactly},
+    FunctionEntry{"ucase$", 1, 1, upperCase},
+    FunctionEntry{"val", 1, 1, numberIn},
 };
 
 }  // namespace

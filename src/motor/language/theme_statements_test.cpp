@@ -112,14 +112,19 @@ TEST(LegendTest, cartographicIsRead) {
       "Text \"Project Area\" Region Pen (90,2,1)  Brush (1,0,2) Text \"Line\" Line Pen (4,2,3) Text \"Sym\" Symbol "
       "(46,1,18)\n"
       "Frame From Layer Zonas Border Pen (0,1,0) Title \"T\" Subtitle \"S\"");
-  EXPECT_EQ(shown(legend.title), "Legend");
+  EXPECT_EQ(shown(legend.defaultStyle.text), "# Legend");
+  EXPECT_TRUE(legend.defaultStyle.font);
   ASSERT_EQ(legend.frames.size(), 2U);
   ASSERT_EQ(legend.frames[0].samples.size(), 3U);
   EXPECT_TRUE(legend.frames[0].samples[0].style.pen && legend.frames[0].samples[0].style.brush);
   EXPECT_TRUE(legend.frames[0].samples[1].style.pen);
   EXPECT_TRUE(legend.frames[0].samples[2].style.symbol);
   EXPECT_EQ(legend.frames[1].layer.name, "Zonas");
-  EXPECT_EQ(shown(legend.frames[1].title) + shown(legend.frames[1].subtitle), "TS");
+  EXPECT_EQ(shown(legend.frames[1].title.text) + shown(legend.frames[1].subtitle.text), "TS");
+  EXPECT_EQ(shown(legend.frames[0].place->at), "1,2");
+  using Kind = LegendSample::Kind;
+  const Kind kinds[] = {Kind::region, Kind::line, Kind::point};
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(legend.frames[0].samples[i].kind, kinds[i]) << i;
 }
 
 TEST(CreateObjectTest, readsEveryShape) {

@@ -80,7 +80,9 @@ Workspace parseWorkspace(std::string_view bytes) {
         {header.charsetLine(), 1}, name,
         isUnreadableCharset(name) ? "este juego de caracteres no se puede leer" : "juego de caracteres desconocido");
   }
-  workspace.statements = parseProgram(toUtf8(header.rest(), *charset), {header.line(), 1});
+  Program program = parseProgramWhole(toUtf8(header.rest(), *charset), {header.line(), 1});
+  workspace.statements = std::move(program.statements);
+  workspace.passedOver = std::move(program.passedOver);
   return workspace;
 }
 

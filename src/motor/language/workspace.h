@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "motor/language/passed_over.h"
 #include "motor/language/statement.h"
 
 namespace motor {
@@ -13,6 +14,7 @@ struct Workspace {
   int version = 0;
   std::string charset;  // as written after !Charset
   std::vector<Statement> statements;
+  std::vector<PassedOverPart> passedOver;  // what of the statements has no effect
 };
 
 // From the file's bytes, in the charset its header names. Throws LanguageError when the file is no workspace, its

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "motor/language/statements/layer_change.h"
 #include "motor/language/statements/legend.h"
 #include "motor/language/statements/shade.h"
 #include "motor/language/styles.h"
@@ -25,21 +26,24 @@ struct EditedLabel {
   std::optional<Font> font;
   std::optional<int> offset;  // points
   double angle = 0;           // degrees
+  // The line to its object that a label has which was moved away from it.
+  std::optional<LabelLine> line;
+  std::optional<Pen> pen;
+  std::optional<Point> callout;  // where it ends, in the table's coordinate system; none: the object's own label place
 };
 
 struct LabelSettings {
   enum class Visibility { off, zoom, on };
-  enum class Line { none, simple, arrow };
-
   Visibility visibility = Visibility::on;
   bool automatic = false;  // Auto On: every object is labelled
   std::string expression;  // as written; empty is the table's first text column
   Font font;
   double minZoom = 0;  // metres, with Visibility::zoom
   double maxZoom = 0;
-  int position = 0;  // 0 CC, 1 TL, 2 TC, 3 TR, 4 CL, 5 CR, 6 BL, 7 BC, 8 BR
-  int offset = 0;    // points
-  Line line = Line::none;
+  int position = 0;                  // 0 CC, 1 TL, 2 TC, 3 TR, 4 CL, 5 CR, 6 BL, 7 BC, 8 BR
+  int offset = 0;                    // points
+  LabelLine line = LabelLine::none;  // of labels that were moved by hand
+  Pen pen;                           // of that line
   bool parallel = true;
   bool overlap = false;
   bool duplicates = false;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "motor/map/layer.h"
+#include "motor/map/legend_frame.h"
 
 namespace motor {
 
@@ -13,9 +14,10 @@ class Map {
   CoordinateSystem coordinateSystem;
   std::vector<Layer> layers;
   Layer cosmetic;
-  Point centre;           // in the map's coordinate system
-  double zoomMetres = 0;  // > 0
-  int pixelWidth = 640;   // of the window
+  std::vector<MapLegendFrame> legendFrames;  // of its cartographic legend, from the top down; none: the themes' legend
+  Point centre;                              // in the map's coordinate system
+  double zoomMetres = 0;                     // > 0
+  int pixelWidth = 640;                      // of the window
   int pixelHeight = 480;
 
   // Coordinate units per pixel at the current zoom.

@@ -11,6 +11,8 @@
 namespace motor {
 namespace {
 
+constexpr std::size_t kMostColumns = 1000;  // each that is added stands on the one before
+
 struct ColumnType {
   const char* name;
   Column::Type type;
@@ -100,6 +102,8 @@ void execute(SessionState& session, const AddColumn& statement) {
   } else {
     for (const ExpressionPtr& value : statement.values) values.push_back(value->evaluate(session.scope));
   }
+  if (entry.table->columns().size() >= kMostColumns)
+    throw EngineError("la tabla «" + entry.name + "» no puede tener más columnas");
   const Column column{.name = statement.column.text, .type = typeNamed(statement.type)};
   auto extended = std::make_shared<const ExtendedTable>(entry.table, column, std::move(values));
   const std::map<TablePtr, TablePtr> replaced = session.tables.replace(entry.name, extended);

@@ -5,6 +5,7 @@
 #include "motor/session/cosmetic_table.h"
 #include "motor/session/executors.h"
 #include "motor/session/session_state.h"
+#include "motor/session/text_lines.h"
 
 namespace motor {
 namespace {
@@ -102,6 +103,21 @@ std::vector<Point> outline(const CreateObject& statement, const std::vector<Poin
   return given;
 }
 
+// How high the box of a text is, in the target's coordinates.
+double heightOf(const CreateObject& statement, const SessionState& session, const CoordinateSystem& target) {
+  Box box;
+  const Transformation toTarget(session.coordinateSystem, target);
+  for (const CoordinatePair& corner : statement.parts.front()) box.add(toTarget(session.point(corner)));
+  return box.maxY - box.minY;
+}
+
+// The lines of a text share its box.
+void setText(MapObject& object, std::string text, double height) {
+  const auto lines = std::count(text.begin(), text.end(), '\n') + 1;
+  object.text = std::move(text);
+  object.lineHeight = height / static_cast<double>(lines);
+}
+
 ObjectPtr objectOf(const CreateObject& statement, const SessionState& session, const CoordinateSystem& target) {
   auto object = std::make_shared<MapObject>();
   object->kind = objectKind(statement.kind);
@@ -119,7 +135,8 @@ ObjectPtr objectOf(const CreateObject& statement, const SessionState& session, c
   object->brush = styles.brush.value_or(Brush{});
   object->symbol = styles.symbol.value_or(Symbol{});
   object->font = styles.font.value_or(Font{});
-  if (statement.text) object->text = session.text(statement.text);
+  if (statement.text)
+    setText(*object, withLineBreaks(session.text(statement.text)), heightOf(statement, session, target));
   if (statement.angle) object->angle = session.number(statement.angle);
   return object;
 }

@@ -33,6 +33,9 @@ void execute(SessionState& session, const Shade& statement);
 void execute(SessionState& session, const SetShade& statement);
 void execute(SessionState& session, const SetLegend& statement);
 
+// cartographic_legend.cpp
+void execute(SessionState& session, const CreateCartographicLegend& statement);
+
 // cosmetic_statements.cpp
 void execute(SessionState& session, const CreateObject& statement);
 
@@ -43,7 +46,6 @@ void execute(SessionState& session, const CloseWindow& statement);
 void execute(SessionState& session, const SetApplicationWindow& statement);
 void execute(SessionState& session, const SetNextDocument& statement);
 void execute(SessionState& session, const CreateLegend& statement);
-void execute(SessionState& session, const CreateCartographicLegend& statement);
 
 // menu_statements.cpp
 void execute(SessionState& session, const CreateMenu& statement);

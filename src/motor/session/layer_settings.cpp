@@ -41,8 +41,6 @@ Display displayOf(LayerDisplay display) {
   return Display::graphic;
 }
 
-LabelSettings::Line lineOf(LabelLine line) { return static_cast<LabelSettings::Line>(line); }
-
 LabelSettings::Visibility visibilityOf(LabelClause::Visibility visibility) {
   return static_cast<LabelSettings::Visibility>(visibility);
 }
@@ -52,15 +50,18 @@ void changeEditedLabel(Layer& layer, const CustomLabel& custom, const SessionSta
   std::vector<EditedLabel>& labels = layer.label.edited;
   auto label = std::find_if(labels.begin(), labels.end(), [row](const EditedLabel& l) { return l.row == row; });
   if (label == labels.end()) {
-    label = labels.insert(labels.end(), EditedLabel());
-    label->row = row;
+    labels.emplace_back().row = row;
+    label = std::prev(labels.end());
   }
   put(label->visible, custom.visible);
   put(label->position, custom.placement);
   if (custom.text) label->text = session.text(custom.text);
-  if (custom.anchor && layer.table) {
+  put(label->line, custom.line);
+  if (custom.pen) label->pen = evaluatePen(*custom.pen, session.scope);
+  if (layer.table) {
     const Transformation toTable(session.coordinateSystem, layer.table->coordinateSystem());
-    label->anchor = toTable(session.point(*custom.anchor));
+    if (custom.anchor) label->anchor = toTable(session.point(*custom.anchor));
+    if (custom.callout) label->callout = toTable(session.point(*custom.callout));
   }
   if (custom.font) label->font = evaluateFont(*custom.font, session.scope);
   if (custom.offset) label->offset = session.integer(custom.offset);
@@ -74,7 +75,8 @@ void changeLabels(Layer& layer, const LabelClause& clause, const std::string& di
   if (clause.with) label.expression = clause.with->text;
   if (clause.font) label.font = evaluateFont(*clause.font, session.scope);
   if (clause.offset) label.offset = session.integer(clause.offset);
-  if (clause.line) label.line = lineOf(*clause.line);
+  if (clause.pen) label.pen = evaluatePen(*clause.pen, session.scope);
+  put(label.line, clause.line);
   if (clause.visibility) label.visibility = visibilityOf(*clause.visibility);
   if (clause.visibilityZoom) {
     label.minZoom = metres(clause.visibilityZoom->minimum, clause.visibilityZoom->unit, distanceUnit, session);

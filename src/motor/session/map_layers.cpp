@@ -1,6 +1,7 @@
 #include "motor/session/map_layers.h"
 
 #include <algorithm>
+#include <set>
 
 #include "motor/session/session_state.h"
 #include "text/utf8.h"
@@ -10,27 +11,35 @@ namespace {
 
 // From the top: texts and points, lines, regions.
 int heightOfKind(const Layer& layer) {
-  for (RowId row = 1; row <= layer.table->rowCount(); ++row) {
-    if (layer.table->isDeleted(row) || !layer.table->object(row)) continue;
-    switch (layer.table->object(row)->kind) {
-      case MapObject::Kind::text:
-      case MapObject::Kind::point:
-        return 0;
-      case MapObject::Kind::polyline:
-        return 1;
-      case MapObject::Kind::region:
-        return 2;
-    }
+  switch (firstKind(layer).value_or(MapObject::Kind::region)) {
+    case MapObject::Kind::text:
+    case MapObject::Kind::point:
+      return 0;
+    case MapObject::Kind::polyline:
+      return 1;
+    case MapObject::Kind::region:
+      return 2;
   }
   return 2;
 }
 
-bool isNamed(const Map& map, const std::string& name) {
-  return std::any_of(map.layers.begin(), map.layers.end(),
-                     [&](const Layer& l) { return text::equalsIgnoringCase(l.name, name); });
+// "Base(n)" with the first n that no layer has.
+std::string nameOfTheme(const Map& map, const std::string& base) {
+  std::set<std::string> taken;
+  for (const Layer& layer : map.layers) taken.insert(text::lower(layer.name));
+  int n = 1;
+  while (taken.contains(text::lower(base) + "(" + std::to_string(n) + ")")) ++n;
+  return base + "(" + std::to_string(n) + ")";
 }
 
 }  // namespace
+
+std::optional<MapObject::Kind> firstKind(const Layer& layer) {
+  for (RowId row = 1; row <= layer.table->rowCount(); ++row) {
+    if (!layer.table->isDeleted(row) && layer.table->object(row)) return layer.table->object(row)->kind;
+  }
+  return std::nullopt;
+}
 
 std::size_t layerIndexOf(const Map& map, const LayerReference& reference, const SessionState& session) {
   if (reference.number) {
@@ -49,6 +58,11 @@ Layer& layerOf(Map& map, const LayerReference& reference, const SessionState& se
   const bool isCosmetic = reference.number ? session.integer(reference.number) == 0
                                            : text::equalsIgnoringCase(reference.name, map.cosmetic.name);
   return isCosmetic ? map.cosmetic : map.layers[layerIndexOf(map, reference, session)];
+}
+
+void expectRoomFor(const Map& map, std::size_t more) {
+  if (more > kMostLayers || map.layers.size() + more > kMostLayers)
+    throw EngineError("un mapa no puede tener más de " + std::to_string(kMostLayers) + " capas");
 }
 
 Layer layerFor(const TableEntry& entry) {
@@ -72,9 +86,9 @@ std::size_t baseIndexOf(const Map& map, std::size_t index) {
 }
 
 std::size_t insertTheme(Map& map, std::size_t base, std::shared_ptr<const Shade> theme) {
+  expectRoomFor(map, 1);
   Layer layer;
-  for (int n = 1; layer.name.empty() || isNamed(map, layer.name); ++n)
-    layer.name = map.layers[base].name + "(" + std::to_string(n) + ")";
+  layer.name = nameOfTheme(map, map.layers[base].name);
   layer.table = map.layers[base].table;
   layer.display = Display::value;
   layer.selectable = false;  // its objects are the base's

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,13 @@ struct TableEntry;
 // The same as an index into Map::layers, where the cosmetic layer is an error.
 [[nodiscard]] std::size_t layerIndexOf(const Map& map, const LayerReference& reference, const SessionState& session);
 
+// What a layer's first object is; nothing without objects.
+[[nodiscard]] std::optional<MapObject::Kind> firstKind(const Layer& layer);
+
+// How many layers a map may have, themes counted. Throws EngineError when `more` besides those it has are too many.
+inline constexpr std::size_t kMostLayers = 1000;
+void expectRoomFor(const Map& map, std::size_t more);
+
 // A new layer of a table in its own styles. Throws EngineError when the table has no map objects.
 [[nodiscard]] Layer layerFor(const TableEntry& entry);
 
@@ -26,7 +34,7 @@ void insertByKind(Map& map, Layer layer);
 [[nodiscard]] std::size_t baseIndexOf(const Map& map, std::size_t index);
 
 // Puts a theme layer above its base and the base's other themes; returns its index. It is named "Base(n)" with the
-// first n that is free.
+// first n that is free. Throws EngineError when the map has too many layers.
 std::size_t insertTheme(Map& map, std::size_t base, std::shared_ptr<const Shade> theme);
 
 // Removes layers (by index); themes go with their bases.

@@ -90,6 +90,7 @@ void setProperties(MapWindowProperties& properties, const SetMap& statement) {
   }
   if (!statement.areaUnit.empty()) properties.areaUnit = statement.areaUnit;
   if (!statement.xyUnit.empty()) properties.xyUnit = statement.xyUnit;
+  if (statement.preserve) properties.keepsScale = *statement.preserve == SetMap::Preserve::scale;
   if (statement.status) properties.status = static_cast<MapWindowProperties::Status>(*statement.status);
 }
 
@@ -97,6 +98,7 @@ void setProperties(MapWindowProperties& properties, const SetMap& statement) {
 
 void execute(SessionState& session, const MapFrom& statement) {
   Map map;
+  expectRoomFor(map, statement.tables.size());
   map.layers = newLayers(session, statement.tables);
   const EvaluatedShape shape = evaluate(statement.shape, session);
   nameSelection(session, map.layers);
@@ -128,6 +130,7 @@ void execute(SessionState& session, const SetMap& statement) {
 
 void execute(SessionState& session, const AddMapLayer& statement) {
   MapWindow& window = session.windowOrFront(statement.window);
+  expectRoomFor(window.map(), statement.tables.size());
   std::vector<Layer> layers = newLayers(session, statement.tables);
   nameSelection(session, layers);
   Map map = window.map();

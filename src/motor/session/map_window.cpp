@@ -113,6 +113,7 @@ void MapWindow::changedAbove() { session_.port.mapChanged(*this); }
 void MapWindow::resized(int pixelWidth, int pixelHeight) {
   bool wasEntire = false;
   quietly([&] { wasEntire = isShownEntire(map_); });
+  if (properties_.keepsScale) map_.zoomMetres *= static_cast<double>(std::max(1, pixelWidth)) / map_.pixelWidth;
   map_.pixelWidth = std::max(1, pixelWidth);
   map_.pixelHeight = std::max(1, pixelHeight);
   quietly([&] {

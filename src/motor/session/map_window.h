@@ -30,7 +30,8 @@ struct MapWindowProperties {
   std::string areaUnit = "sq mi";
   std::string xyUnit = "degree";
   Status status = Status::zoom;
-  std::string lastTheme;  // the theme layer that was created or changed last
+  bool keepsScale = false;  // another width of the window shows more or less; else the same, larger or smaller
+  std::string lastTheme;    // the theme layer that was created or changed last
 };
 
 // The rows that are selected, for the windows that show their table.

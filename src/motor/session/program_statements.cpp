@@ -23,8 +23,12 @@ class WorkspaceError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+constexpr std::uintmax_t kLargestWorkspace = 32 * 1024 * 1024;  // bytes
+
 std::string contentsOf(const std::filesystem::path& file, const std::string& written) {
   std::error_code failed;
+  if (const auto size = std::filesystem::file_size(file, failed); !failed && size > kLargestWorkspace)
+    throw EngineError("«" + written + "»: el archivo es demasiado grande");
   const auto bytes = std::filesystem::is_regular_file(file, failed) ? text::wholeFile(file) : std::nullopt;
   if (!bytes) throw EngineError("«" + written + "»: no se puede leer el archivo");
   return *bytes;
@@ -51,6 +55,13 @@ void runWorkspace(SessionState& session, const std::filesystem::path& file, cons
   }
 }
 
+// Programs in the language's compiled form, and those of the machine.
+bool isProgram(const std::string& file) {
+  const std::string name = text::lower(file);
+  constexpr std::array kEndings{".mbx", ".mbo", ".exe", ".com", ".bat", ".cmd", ".dll"};
+  return std::any_of(kEndings.begin(), kEndings.end(), [&](const char* ending) { return name.ends_with(ending); });
+}
+
 Value initialValue(const std::string& type) {
   if (type == "string") return "";
   if (type == "logical") return false;
@@ -61,6 +72,8 @@ Value initialValue(const std::string& type) {
 
 void execute(SessionState& session, const RunApplication& statement) {
   const std::string written = session.text(statement.file);
+  if (isProgram(written))
+    throw LanguageError(statement.position, "Run Application", "no se permite ejecutar programas: «" + written + "»");
   const std::filesystem::path file = session.workspaceFolders.empty()
                                          ? platform::machinePath(written)
                                          : session.files.workspace(written, session.workspaceFolders.back());
@@ -95,7 +108,8 @@ void execute(SessionState& session, const SetUnits& statement) {
       return;
     }
     case SetUnits::Kind::area:
-      return;  // no function tells areas
+      session.areaUnit = unit;  // of no function but the one that tells it
+      return;
   }
 }
 
@@ -131,7 +145,7 @@ void execute(SessionState& session, const PassedOver& statement) {
 }
 
 void execute(SessionState& /*session*/, const Refused& statement) {
-  throw LanguageError(statement.position, statement.name, "no se permite: los datos solo se leen");
+  throw LanguageError(statement.position, statement.name, statement.reason);
 }
 
 }  // namespace motor

@@ -18,6 +18,7 @@ class SessionState;
 [[nodiscard]] Value windowInfo(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value numberOfWindows(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value numberOfAllWindows(SessionState& session, const Arguments& arguments);
+[[nodiscard]] Value sessionInfo(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value commandInfo(SessionState& session, const Arguments& arguments);
 
 // map_functions.cpp
@@ -29,6 +30,7 @@ class SessionState;
 // table_functions.cpp
 [[nodiscard]] Value tableInfo(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value selectionInfo(SessionState& session, const Arguments& arguments);
+[[nodiscard]] Value numberOfColumns(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value numberOfTables(SessionState& session, const Arguments& arguments);
 [[nodiscard]] Value endOfTable(SessionState& session, const Arguments& arguments);
 

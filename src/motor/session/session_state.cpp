@@ -28,6 +28,8 @@ std::string defaultTitle(const Map& map) {
 // Statements may run statements; endless circles must not.
 constexpr int kDeepest = 16;
 
+constexpr std::size_t kMostWindows = 200;
+
 }  // namespace
 
 SessionState::SessionState(WindowPort& windowPort, SessionOptions sessionOptions)
@@ -38,6 +40,8 @@ SessionState::SessionState(WindowPort& windowPort, SessionOptions sessionOptions
 SessionState::~SessionState() { closeAllWindows(); }
 
 MapWindow& SessionState::openWindow(Map map) {
+  if (windows_.size() >= kMostWindows)
+    throw EngineError("no se pueden abrir más de " + std::to_string(kMostWindows) + " ventanas de mapa");
   auto window = std::make_unique<MapWindow>(*this, nextWindowId());
   window->map_ = std::move(map);
   window->map_.cosmetic.name = "Cosmetic" + std::to_string(++cosmeticTables_);

@@ -60,6 +60,7 @@ class SessionState {
   CoordinateSystem coordinateSystem;  // of coordinates in statements, functions and callbacks
   bool drawsOnLayout = false;         // that system is a layout's paper
   std::string distanceUnit = "mi";
+  std::string areaUnit = "sq mi";
   std::string paperUnit = "in";
   std::map<std::string, Value> variables;  // by name in lower case
   std::vector<SearchHit> hits;             // of the last SearchPoint
@@ -75,7 +76,7 @@ class SessionState {
 
   // --- windows ---
   [[nodiscard]] const std::vector<std::unique_ptr<MapWindow>>& windows() const { return windows_; }
-  // Opens a window for a map that has its layers.
+  // Opens a window for a map that has its layers. Throws EngineError when there are too many.
   MapWindow& openWindow(Map map);
   // The window is no more when this returns.
   void closeWindow(MapWindow& window);

@@ -23,13 +23,17 @@ bool isDevice(const std::string& component) {
   return std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end();
 }
 
+[[noreturn]] void failUnsafe(const std::string& written) { throw EngineError("«" + written + "»: ruta no permitida"); }
+
 // Throws EngineError for a path that may not be followed.
 void refuseUnsafe(const std::string& written, const std::string& path) {
-  const bool network = path.starts_with("//");
-  bool unsafe = network || path.find('\0') != std::string::npos;
+  bool unsafe = path.find('\0') != std::string::npos;
   for (const fs::path& part : text::toPath(path)) unsafe = unsafe || isDevice(text::fromPath(part));
-  if (unsafe) throw EngineError("«" + written + "»: ruta no permitida");
+  if (unsafe) failUnsafe(written);
 }
+
+// Another machine's folder is never asked; only its file's name counts.
+bool isOnNetwork(const std::string& path) { return path.starts_with("//"); }
 
 bool hasDrive(const std::string& path) { return path.size() >= 2 && path[1] == ':'; }
 
@@ -54,13 +58,14 @@ fs::path TableFiles::locate(const std::string& written, const std::optional<fs::
   std::string path = written;
   std::replace(path.begin(), path.end(), '\\', '/');
   refuseUnsafe(written, path);
+  const bool network = isOnNetwork(path);
   const bool absolute = path.starts_with("/") || hasDrive(path);
   std::vector<fs::path> candidates;
   if (workspaceFolder) {
     if (!absolute) candidates.push_back(*workspaceFolder / text::toPath(path));
     candidates.push_back(*workspaceFolder / text::toPath(path.substr(path.find_last_of("/:") + 1)));
   }
-  if (absolute) candidates.push_back(text::toPath(path));
+  if (absolute && !network) candidates.push_back(text::toPath(path));
   for (const fs::path& root : roots_) {
     if (!absolute) candidates.push_back(root / text::toPath(path));
   }
@@ -75,6 +80,7 @@ fs::path TableFiles::locate(const std::string& written, const std::optional<fs::
       outside = true;
     }
   }
+  if (network) failUnsafe(written);
   throw EngineError(outside ? "«" + written + "»: está fuera de las carpetas que se pueden leer"
                             : "«" + written + "»: no se encuentra el archivo");
 }

@@ -88,6 +88,10 @@ Value tableInfo(SessionState& session, const Arguments& arguments) {
   return readAttribute(kAttributes, arguments, 1, session, tableOfArgument(session, arguments));
 }
 
+Value numberOfColumns(SessionState& session, const Arguments& arguments) {
+  return static_cast<double>(tableOfArgument(session, arguments).table->columns().size());
+}
+
 Value selectionInfo(SessionState& session, const Arguments& arguments) {
   // Only asking for the name opens a table that has it.
   const ResultPtr selection = session.tables.selection();

@@ -56,7 +56,20 @@ constexpr std::array kSpecialAttributes{
     SpecialAttribute{13, [](const SessionState&, const int& code) -> Value { return code; }},
 };
 
+using SessionAttribute = Attribute<SessionState>;
+
+constexpr std::array kSessionAttributes{
+    SessionAttribute{1, [](const SessionState& s) -> Value { return "CoordSys " + s.coordinateSystem.clause(); }},
+    SessionAttribute{2, [](const SessionState& s) -> Value { return s.distanceUnit; }},
+    SessionAttribute{3, [](const SessionState& s) -> Value { return s.areaUnit; }},
+    SessionAttribute{4, [](const SessionState& s) -> Value { return s.paperUnit; }},
+};
+
 }  // namespace
+
+Value sessionInfo(SessionState& session, const Arguments& arguments) {
+  return readAttribute(kSessionAttributes, arguments, 0, session);
+}
 
 Value windowId(SessionState& session, const Arguments& arguments) {
   const int n = arguments.integer(0);

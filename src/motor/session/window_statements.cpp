@@ -102,10 +102,4 @@ void execute(SessionState& session, const CreateLegend& statement) {
   if (statement.shown) openLegend(session);
 }
 
-// A cartographic legend is a document of its own, which only print layouts use.
-void execute(SessionState& session, const CreateCartographicLegend& statement) {
-  [[maybe_unused]] const MapWindow& window = session.windowOrFront(statement.window);
-  session.passOverDocument();
-}
-
 }  // namespace motor

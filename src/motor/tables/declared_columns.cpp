@@ -1,5 +1,7 @@
 #include "motor/tables/declared_columns.h"
 
+#include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -19,23 +21,62 @@ std::size_t columnCount(const std::string& line) {
   return counts && words ? count : 0;
 }
 
+constexpr std::string_view kBlanks = " \t\r";
+
+// The type in a column's line, `name type (...)`: where it begins and ends.
+struct TypePlace {
+  std::size_t begin;
+  std::size_t end;
+};
+
+TypePlace typePlace(const std::string& line) {
+  const std::size_t name = std::min(line.find_first_not_of(kBlanks), line.size());
+  const std::size_t nameEnd = std::min(line.find_first_of(kBlanks, name), line.size());
+  const std::size_t begin = std::min(line.find_first_not_of(kBlanks, nameEnd), line.size());
+  std::size_t end = begin;
+  while (end < line.size() && std::isalnum(static_cast<unsigned char>(line[end])) != 0) ++end;
+  return {begin, end};
+}
+
 }  // namespace
 
-std::vector<bool> declaredLogical(const std::filesystem::path& file, std::size_t count) {
-  std::vector<bool> logical(count, false);
+std::vector<std::string> declaredTypes(const std::filesystem::path& file) {
+  std::vector<std::string> types;
   std::ifstream input(file, std::ios::binary);
   std::string line;
-  std::size_t declared = 0;
-  while (declared == 0 && std::getline(input, line)) declared = columnCount(line);
-  if (declared != count) return logical;
-  for (std::size_t i = 0; i < count && std::getline(input, line); ++i) {
-    std::istringstream words(line);
-    std::string name;
-    std::string type;
-    words >> name >> type;
-    logical[i] = text::equalsIgnoringCase(type.substr(0, type.find(';')), "logical");
+  std::size_t count = 0;
+  while (count == 0 && std::getline(input, line)) count = columnCount(line);
+  while (types.size() < count && std::getline(input, line)) {
+    const TypePlace place = typePlace(line);
+    types.push_back(text::lower(line.substr(place.begin, place.end - place.begin)));
   }
-  return logical;
+  return types;
+}
+
+std::string withLargeIntegersAs(const std::string& type, const std::string& definition) {
+  std::string result;
+  std::size_t columnsLeft = 0;
+  bool declared = false;
+  for (std::size_t begin = 0; begin < definition.size();) {
+    const std::size_t end = std::min(definition.find('\n', begin), definition.size());
+    std::string line = definition.substr(begin, end - begin);
+    if (columnsLeft > 0) {
+      --columnsLeft;
+      const TypePlace place = typePlace(line);
+      const bool isLarge = text::equalsIgnoringCase(line.substr(place.begin, place.end - place.begin), "largeint");
+      if (isLarge) line.replace(place.begin, place.end - place.begin, type);
+    } else if (!declared) {
+      columnsLeft = columnCount(line);
+      declared = columnsLeft > 0;
+    }
+    result += line;
+    begin = end + 1;
+    if (end == definition.size()) break;
+    result += '\n';
+    if (!declared || columnsLeft > 0) continue;
+    return result + definition.substr(begin);  // what follows the last column stays as it is
+  }
+  return result;
 }
 
 }  // namespace motor

@@ -1,13 +1,16 @@
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
+#include <string>
 #include <vector>
 
 namespace motor {
 
-// Which columns a TAB or MIF file declares Logical; the format library gives them as one-letter texts. All false for a
-// file that does not declare exactly `count` columns (a view, a seamless table).
-[[nodiscard]] std::vector<bool> declaredLogical(const std::filesystem::path& file, std::size_t count);
+// What the columns of a TAB or MIF file are declared as ("char", "logical", "largeint"), in lower case; the format
+// library does not tell them all. Nothing when the file declares none or they are not to be found.
+[[nodiscard]] std::vector<std::string> declaredTypes(const std::filesystem::path& file);
+
+// The text of a file's definition in which columns of 64-bit numbers are declared as `type`.
+[[nodiscard]] std::string withLargeIntegersAs(const std::string& type, const std::string& definition);
 
 }  // namespace motor

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "motor/tables/gdal.h"
+#include "motor/tables/memory_file.h"
 #include "motor/tables/read_failure.h"
 #include "platform/paths.h"
 #include "text/utf8.h"
@@ -16,11 +17,6 @@ namespace motor {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string bytesOf(const fs::path& file) {
-  std::ifstream input(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(input), {}};
-}
 
 std::string utf8Of(const fs::path& path) {
   const std::u8string s = path.u8string();
@@ -45,22 +41,6 @@ Definition definitionOf(const fs::path& file) {
   }
   return definition;
 }
-
-// A file in memory under a name of its own.
-class MemoryFile {
- public:
-  MemoryFile(std::string name, std::string bytes) : name_(std::move(name)), bytes_(std::move(bytes)) {
-    gdal().VSIFCloseL(
-        gdal().VSIFileFromMemBuffer(name_.c_str(), reinterpret_cast<GByte*>(bytes_.data()), bytes_.size(), FALSE));
-  }
-  ~MemoryFile() { gdal().VSIUnlink(name_.c_str()); }
-  MemoryFile(const MemoryFile&) = delete;
-  MemoryFile& operator=(const MemoryFile&) = delete;
-
- private:
-  std::string name_;
-  std::string bytes_;
-};
 
 // The words of a line, a quoted one without its quotes.
 std::vector<std::string> wordsOf(const std::string& line) {

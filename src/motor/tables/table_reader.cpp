@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -11,6 +12,7 @@
 #include "motor/tables/object_pool.h"
 #include "motor/tables/ogr_errors.h"
 #include "motor/tables/read_failure.h"
+#include "motor/tables/readable_file.h"
 #include "motor/tables/seamless_parts.h"
 
 namespace motor {
@@ -97,8 +99,9 @@ class Reader {
 
   // Appends the rows of a file's layer; a second one (of a table in several files) has the columns of the first, and
   // its rows are numbered on.
-  void add(const std::filesystem::path& file, OGRLayerH layer) {
+  void add(const std::filesystem::path& file, OGRLayerH layer, bool givesBits) {
     const bool isFirst = contents_.columns.empty();
+    givesBits_ = givesBits;
     if (isFirst) describeColumns(file, layer);
     if (library_.OGR_FD_GetFieldCount(library_.OGR_L_GetLayerDefn(layer)) != static_cast<int>(contents_.columns.size()))
       failDamaged(file);
@@ -132,13 +135,17 @@ class Reader {
   void describeColumns(const std::filesystem::path& file, OGRLayerH layer) {
     const OGRFeatureDefnH definition = library_.OGR_L_GetLayerDefn(layer);
     const auto count = static_cast<std::size_t>(library_.OGR_FD_GetFieldCount(definition));
-    const std::vector<bool> logical = declaredLogical(file, count);
+    std::vector<std::string> declared = declaredTypes(file);
+    if (declared.size() != count) declared.assign(count, {});
     for (std::size_t i = 0; i < count; ++i) {
       const OGRFieldDefnH field = library_.OGR_FD_GetFieldDefn(definition, static_cast<int>(i));
       const OGRFieldType type = library_.OGR_Fld_GetType(field);
       Column column;
       column.name = Decoded(library_.OGR_Fld_GetNameRef(field)).text();
-      column.type = logical[i] ? Column::Type::logical : typeOf(type);
+      isLarge_.push_back(declared[i] == "largeint");
+      column.type = declared[i] == "logical" ? Column::Type::logical
+                    : isLarge_.back()        ? Column::Type::integer
+                                             : typeOf(type);
       column.width = library_.OGR_Fld_GetWidth(field);
       column.decimals = library_.OGR_Fld_GetPrecision(field);
       const bool isText = column.type == Column::Type::text || column.type == Column::Type::date;
@@ -184,8 +191,10 @@ class Reader {
     auto& numbers = std::get<std::vector<double>>(data);
     if (!isSet) return numbers.push_back(kNoNumber);
     const bool isLogical = contents_.columns[column].type == Column::Type::logical;
-    numbers.push_back(isLogical ? logicalOf(library_.OGR_F_GetFieldAsString(feature, field))
-                                : library_.OGR_F_GetFieldAsDouble(feature, field));
+    if (isLogical) return numbers.push_back(logicalOf(library_.OGR_F_GetFieldAsString(feature, field)));
+    const double number = library_.OGR_F_GetFieldAsDouble(feature, field);
+    numbers.push_back(givesBits_ && isLarge_[column] ? static_cast<double>(std::bit_cast<std::int64_t>(number))
+                                                     : number);
   }
 
   void addObject(OGRFeatureH feature) {
@@ -210,6 +219,8 @@ class Reader {
   const OgrErrors& errors_;
   TableContents contents_;
   std::vector<OGRFieldType> fieldTypes_;
+  std::vector<bool> isLarge_;  // by column, whether it holds 64-bit numbers
+  bool givesBits_ = false;
   ObjectPool pool_;
   bool hasMapFile_ = false;
   std::vector<std::uint32_t> objectByRow_;
@@ -218,13 +229,12 @@ class Reader {
 void readFile(const std::filesystem::path& file, const OgrErrors& errors, Reader& reader) {
   std::error_code ignored;
   if (!std::filesystem::is_regular_file(file, ignored)) failMissing(file);
-  const std::u8string name = file.u8string();
-  const std::string utf8Name(name.begin(), name.end());
+  const ReadableFile readable(file);
   const char* const drivers[] = {"MapInfo File", nullptr};
   const GdalDataset dataset(
-      gdal().GDALOpenEx(utf8Name.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
+      gdal().GDALOpenEx(readable.name().c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, nullptr, nullptr));
   if (!dataset || gdal().GDALDatasetGetLayerCount(dataset.get()) == 0 || errors.failed()) failDamaged(file);
-  reader.add(file, gdal().GDALDatasetGetLayer(dataset.get(), 0));
+  reader.add(file, gdal().GDALDatasetGetLayer(dataset.get(), 0), readable.givesBits());
 }
 
 }  // namespace

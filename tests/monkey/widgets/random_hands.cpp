@@ -14,11 +14,11 @@ namespace monkey {
 namespace {
 
 constexpr std::array kKeys{
-    Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Up,
-    Qt::Key_Down,  Qt::Key_Down,   Qt::Key_Home,    Qt::Key_End,    Qt::Key_PageUp,    Qt::Key_PageDown,
-    Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter,   Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Delete,
-    Qt::Key_Plus,  Qt::Key_Minus,  Qt::Key_F1,      Qt::Key_F4,     Qt::Key_F6,        Qt::Key_Menu,
-    Qt::Key_A,     Qt::Key_C,      Qt::Key_F,       Qt::Key_V,      Qt::Key_X,         Qt::Key_Z,
+    Qt::Key_Tab,   Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,    Qt::Key_Down,
+    Qt::Key_Down,  Qt::Key_Home,   Qt::Key_End,       Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Return,
+    Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Plus,     Qt::Key_Minus, Qt::Key_F1,
+    Qt::Key_F4,    Qt::Key_F6,     Qt::Key_Menu,      Qt::Key_A,      Qt::Key_C,        Qt::Key_F,     Qt::Key_P,
+    Qt::Key_V,     Qt::Key_X,      Qt::Key_Z,
 };
 constexpr std::array<Qt::KeyboardModifiers, 6> kModifiers{Qt::NoModifier,    Qt::NoModifier,
                                                           Qt::NoModifier,    Qt::ControlModifier,

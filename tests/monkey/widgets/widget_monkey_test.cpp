@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTest>
 #include <array>
 #include <cstdlib>
 #include <deque>
@@ -133,6 +134,7 @@ TEST_F(WidgetMonkey, BreaksNothing) {
   start();
   for (std::uint64_t i = 0; i < events; ++i) {
     note(hands.act());
+    static_cast<void>(QTest::qWaitFor([] { return QApplication::activeModalWidget() == nullptr; }));
     for (const std::string& closed : dialogs.takeLog()) note(closed);
     ASSERT_EQ(complaint(), "") << "seed " << seed << ", event " << i + 1 << ", the last of\n" << log();
     noteTab();

@@ -21,7 +21,8 @@ QSize fitting(const QScreen& screen) { return kSize.boundedTo(screen.availableGe
 
 }  // namespace
 
-HelpWindow::HelpWindow(const QString& path, const QWidget* beside) : path_(path), page_(new PageBrowser(this)) {
+HelpWindow::HelpWindow(const QString& path, const StudyFolder& folder, const QWidget* beside)
+    : path_(path), folder_(folder), page_(new PageBrowser(this)) {
   setObjectName(QStringLiteral("VentanaAyuda"));
   setWindowTitle(QStringLiteral("Ayuda de Mortalidad en Veldoria"));
   setWindowIcon(artwork::icon("escudo"));
@@ -59,17 +60,20 @@ void HelpWindow::addButtons() {
   auto* forward = add(Qt::RightArrow, "Adelante", "Alt+Derecha", [this] { page_->forward(); });
   add(Qt::NoArrow, "Inicio", "Alt+Inicio", [this] { page_->showOpened(); });
   row->addStretch(1);
-  add(Qt::NoArrow, "Buscar...", "Ctrl+F", [this] { page_->openFind(); });
-  add(Qt::NoArrow, "Imprimir...", "Ctrl+P", [this] { page_->previewPrint(); });
+  auto* find = add(Qt::NoArrow, "Buscar...", "Ctrl+F", [this] { page_->openFind(); });
+  auto* print = add(Qt::NoArrow, "Imprimir...", "Ctrl+P", [this] { page_->previewPrint(); });
   back->setEnabled(false);
   forward->setEnabled(false);
   connect(page_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
   connect(page_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+  connect(page_, &QTextBrowser::sourceChanged, this, [this, find, print] {
+    for (QToolButton* each : {find, print}) each->setEnabled(page_->hasPage());
+  });
   static_cast<QVBoxLayout*>(layout())->addLayout(row);
 }
 
 void HelpWindow::showContents() {
-  page_->openPage(path_);
+  page_->openPage(path_, folder_);
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();

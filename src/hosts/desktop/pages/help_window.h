@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "hosts/desktop/pages/study_folder.h"
+
 namespace desktop::pages {
 
 class PageBrowser;
@@ -10,8 +12,9 @@ class PageBrowser;
 // program's windows and holds none of them up.
 class HelpWindow : public QWidget {
  public:
-  // Shows the page at a machine path. `beside` is the window that it opens over at first; it may be null.
-  HelpWindow(const QString& path, const QWidget* beside);
+  // Shows the page at a machine path, in the study's folder. `beside` is the window that it opens over at first; it may
+  // be null.
+  HelpWindow(const QString& path, const StudyFolder& folder, const QWidget* beside);
 
   // Shows the first page again, in front.
   void showContents();
@@ -24,6 +27,7 @@ class HelpWindow : public QWidget {
   void addButtons();
 
   QString path_;
+  StudyFolder folder_;
   PageBrowser* page_;
 };
 

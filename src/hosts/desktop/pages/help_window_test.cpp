@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -11,6 +10,7 @@
 #include <stdexcept>
 
 #include "hosts/desktop/pages/page_browser.h"
+#include "hosts/desktop/test_files.h"
 #include "hosts/desktop/user_hands.h"
 
 namespace desktop::pages {
@@ -21,16 +21,11 @@ class HelpWindows : public ::testing::Test {
   void SetUp() override {
     write("Ayuda.html", "<title>Ayuda</title><a href='tema.html'>tema</a>");
     write("tema.html", "<title>Tema</title>");
-    help.emplace(path("Ayuda.html"), nullptr);
+    help.emplace(path("Ayuda.html"), StudyFolder(folder.path()), nullptr);
     help->showContents();
     hands::settle();
   }
-  void write(const char* name, const char* text) {
-    QDir().mkpath(QFileInfo(path(name)).path());
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
+  void write(const char* name, const char* text) { testing::writeFile(path(name), text); }
   [[nodiscard]] QString path(const char* name) const { return folder.filePath(QLatin1String("Ayuda/") + name); }
   [[nodiscard]] QToolButton& button(const char* text) {
     for (auto* each : help->findChildren<QToolButton*>()) {
@@ -64,6 +59,17 @@ TEST_F(HelpWindows, GoBackForwardAndHome) {
   button("Inicio").click();
   EXPECT_EQ(page(), "Ayuda");
   EXPECT_FALSE(button("Atrás").isEnabled());
+}
+
+TEST_F(HelpWindows, OfferToSearchAndToPrintAPageThatIsThere) {
+  EXPECT_TRUE(button("Buscar...").isEnabled());
+  QFile::remove(path("Ayuda.html"));
+  help->showContents();
+  EXPECT_FALSE(button("Buscar...").isEnabled());
+  EXPECT_FALSE(button("Imprimir...").isEnabled());
+  write("Ayuda.html", "<title>Ayuda</title>");
+  help->showContents();
+  EXPECT_TRUE(button("Imprimir...").isEnabled());
 }
 
 TEST_F(HelpWindows, EscapeClosesTheRowToFindWordsThenTheWindow) {

@@ -9,6 +9,8 @@ namespace desktop::pages {
 struct Attribute {
   QString name;   // in lower case
   QString value;  // references replaced
+
+  bool operator==(const Attribute&) const = default;
 };
 
 struct HtmlToken {

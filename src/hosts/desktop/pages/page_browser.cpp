@@ -9,6 +9,7 @@
 #include <QTextDocumentFragment>
 #include <QTextFrame>
 #include <QTextFrameFormat>
+#include <QTextTable>
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
@@ -30,7 +31,8 @@ constexpr int kWheelStep = 120;    // of a mouse wheel, in its own units
 constexpr int kNoticeTime = 4000;  // milliseconds
 constexpr int kNoticeInset = 8;
 constexpr std::size_t kMostMatches = 999;
-constexpr qsizetype kLongestWords = 100;  // taken from the selection to look for
+constexpr qsizetype kLongestWords = 100;   // taken from the selection to look for
+constexpr qint64 kLargePage = 128 * 1024;  // bytes, which take a good part of a second
 constexpr qint64 kMostSheetBytes = 512 * 1024;
 
 constexpr int kMissingMargin = 24;  // pixels
@@ -42,6 +44,17 @@ constexpr auto kMissingPage =
 bool isPage(const QString& file) {
   const QString ending = QFileInfo(file).suffix().toLower();
   return ending == QLatin1String("html") || ending == QLatin1String("htm");
+}
+
+// Of the lines and the rows of tables that stand on the page, in pixels: it is not lower than that.
+int leastHeight(const QTextDocument& document) {
+  constexpr int kLeastLine = 8;
+  int lines = 0;
+  for (auto at = document.rootFrame()->begin(); !at.atEnd(); ++at) {
+    const auto* table = qobject_cast<const QTextTable*>(at.currentFrame());
+    lines += table == nullptr ? 1 : table->rows();
+  }
+  return lines * kLeastLine;
 }
 
 // The step of the zoom from here: the next larger or smaller one.
@@ -102,9 +115,9 @@ void PageBrowser::addShortcuts() {
   add({Qt::CTRL | Qt::Key_P}, [this] { previewPrint(); });
 }
 
-void PageBrowser::openPage(const QString& path) {
+void PageBrowser::openPage(const QString& path, const StudyFolder& folder) {
   opened_ = path;
-  folder_ = StudyFolder::around(path);
+  folder_ = folder;
   const QUrl address = QUrl::fromLocalFile(path);
   if (address == source()) {
     reload();
@@ -116,8 +129,10 @@ void PageBrowser::openPage(const QString& path) {
 
 QString PageBrowser::pageName() const { return page_.title.isEmpty() ? source().fileName() : page_.title; }
 
-// A link. What lies outside the study, or is no page, is told of and not opened.
+// A link. What lies outside the study, or is no page, is told of and not opened. While a page is read anew there is no
+// source that a link could stand in.
 void PageBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType /*type*/) {
+  if (source().isEmpty()) return QTextBrowser::doSetSource(name, QTextDocument::HtmlResource);
   const QUrl address = source().resolved(name);
   const bool isHere = address.adjusted(QUrl::RemoveFragment) == source().adjusted(QUrl::RemoveFragment);
   if (!isHere && !isPage(folder_.fileAt(address))) {
@@ -141,7 +156,8 @@ QString PageBrowser::readHtml(const QUrl& address) {
   constexpr double kHeading = 17;
   constexpr double kText = 13;
   const QString file = folder_.fileAt(address);
-  if (file.isEmpty()) {
+  hasPage_ = !file.isEmpty();
+  if (!hasPage_) {
     page_ = {};
     page_.margins.fill(qRound(kMissingMargin * zoom_));
     return QString::fromUtf8(kMissingPage)
@@ -152,6 +168,7 @@ QString PageBrowser::readHtml(const QUrl& address) {
   const auto sheet = [&](const QString& written) {
     return firstBytes(folder_.fileAt(address.resolved(QUrl(written))), kMostSheetBytes);
   };
+  if (QFileInfo(file).size() > kLargePage) wait_.emplace();
   page_ = readPage(firstBytes(file, kMostPageBytes + 1), zoom_, sheet);
   return page_.html;
 }
@@ -163,9 +180,19 @@ void PageBrowser::settlePage() {
                              : QString();
   if (ground != styleSheet()) setStyleSheet(ground);
   settleMargins();
-  document()->setLayoutEnabled(true);
+  layOut();
+  wait_.reset();
   if (source().hasFragment()) scrollToAnchor(source().fragment());
   if (isFinding()) search(findBar_->words());
+}
+
+// A page that does not fit is laid out beside its scroll bar at once: to find that out would be to lay it out twice
+// more.
+void PageBrowser::layOut() {
+  const bool isLong = leastHeight(*document()) > viewport()->height();
+  if (isLong) setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  document()->setLayoutEnabled(true);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 // Lines that may be only so wide stand in the middle.
@@ -187,6 +214,7 @@ void PageBrowser::settleMargins() {
 }
 
 void PageBrowser::openFind() {
+  if (!hasPage_) return;
   findBar_->setVisible(true);
   setViewportMargins(0, 0, 0, findBar_->sizeHint().height());
   placeOverlays();
@@ -208,7 +236,7 @@ bool PageBrowser::isFinding() const { return findBar_->isVisibleTo(this); }
 
 // The first place from where the user is on.
 void PageBrowser::search(const QString& words) {
-  matches_ = matchesOf(*document(), words, kMostMatches);
+  matches_ = hasPage_ ? matchesOf(*document(), words, kMostMatches) : std::vector<Match>();
   const int from = textCursor().selectionStart();
   const auto next = std::ranges::find_if(matches_, [&](const Match& match) { return match.position >= from; });
   if (!matches_.empty())
@@ -281,7 +309,12 @@ void PageBrowser::select(int anchor, int position) {
 }
 
 void PageBrowser::previewPrint() {
-  previewPage(*this, firstBytes(folder_.fileAt(source()), kMostPageBytes + 1), pageName());
+  if (!hasPage_) return;
+  const QString file = folder_.fileAt(source());
+  if (file.isEmpty()) {
+    return say(QStringLiteral("La página ya no está en la carpeta del estudio: %1").arg(source().fileName()));
+  }
+  previewPage(*this, firstBytes(file, kMostPageBytes + 1), pageName());
 }
 
 QMimeData* PageBrowser::createMimeDataFromSelection() const {
@@ -292,24 +325,24 @@ QMimeData* PageBrowser::createMimeDataFromSelection() const {
 }
 
 void PageBrowser::contextMenuEvent(QContextMenuEvent* event) {
-  const bool isShown = !source().isEmpty();
   popUpMenu(*this, event->globalPos(),
             {{"&Copiar", [this] { copy(); }, textCursor().hasSelection(), QKeySequence::Copy},
-             {"Seleccionar &todo", [this] { selectAll(); }, isShown, QKeySequence::SelectAll},
+             {"Seleccionar &todo", [this] { selectAll(); }, hasPage_, QKeySequence::SelectAll},
              {},
-             {"&Buscar...", [this] { openFind(); }, isShown, Qt::CTRL | Qt::Key_F},
+             {"&Buscar...", [this] { openFind(); }, hasPage_, Qt::CTRL | Qt::Key_F},
              {},
              {"&Acercar", [this] { zoomBy(1); }, zoom_ < kZooms.back(), Qt::CTRL | Qt::Key_Plus},
              {"A&lejar", [this] { zoomBy(-1); }, zoom_ > kZooms.front(), Qt::CTRL | Qt::Key_Minus},
              {"Tamaño &normal", [this] { zoomToNormal(); }, zoom_ != 1, Qt::CTRL | Qt::Key_0},
              {},
-             {"&Imprimir...", [this] { previewPrint(); }, isShown, Qt::CTRL | Qt::Key_P}});
+             {"&Imprimir...", [this] { previewPrint(); }, hasPage_, Qt::CTRL | Qt::Key_P}});
 }
 
 void PageBrowser::keyPressEvent(QKeyEvent* event) {
   const bool isAlt = event->modifiers() == Qt::AltModifier;
   if (isAlt && (event->key() == Qt::Key_Home || event->key() == Qt::Key_Up)) return showOpened();
   if (event->key() == Qt::Key_Escape && isFinding()) return closeFind();
+  if (!hasPage_ && event->matches(QKeySequence::SelectAll)) return;
   QTextBrowser::keyPressEvent(event);
 }
 

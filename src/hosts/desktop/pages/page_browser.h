@@ -2,11 +2,13 @@
 
 #include <QTextBrowser>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "hosts/desktop/pages/page_text.h"
 #include "hosts/desktop/pages/study_folder.h"
 #include "hosts/desktop/pages/text_search.h"
+#include "hosts/desktop/wait_cursor.h"
 
 class QLabel;
 class QTimer;
@@ -23,8 +25,11 @@ class PageBrowser : public QTextBrowser {
   explicit PageBrowser(QWidget* parent);
   ~PageBrowser() override;
 
-  // Shows a page by its machine path; a page that says so where there is none. What was shown before is forgotten.
-  void openPage(const QString& path);
+  // Shows a page by its machine path; a notice where there is none in the folder, from which alone everything is read.
+  // What was shown before is forgotten.
+  void openPage(const QString& path, const StudyFolder& folder);
+  // Whether a page is shown, and not the notice that there is none. Without one there is nothing to print or to search.
+  [[nodiscard]] bool hasPage() const { return hasPage_; }
   // The title of the page shown, else its file's name; empty before the first.
   [[nodiscard]] QString pageName() const;
 
@@ -39,9 +44,9 @@ class PageBrowser : public QTextBrowser {
   void zoomToNormal();
 
   // Back to the page that was opened, from wherever its links have led.
-  void showOpened() { openPage(opened_); }
+  void showOpened() { openPage(opened_, folder_); }
 
-  // Opens the preview of the printed page.
+  // Opens the preview of the printed page; says so where its file has gone.
   void previewPrint();
 
  protected:
@@ -57,6 +62,7 @@ class PageBrowser : public QTextBrowser {
   void addShortcuts();
   [[nodiscard]] QString readHtml(const QUrl& address);
   void settlePage();
+  void layOut();
   void settleMargins();
   void setZoom(double zoom);
   void select(int anchor, int position);
@@ -69,6 +75,8 @@ class PageBrowser : public QTextBrowser {
   QString opened_;
   StudyFolder folder_;
   PageText page_;
+  bool hasPage_ = false;
+  std::optional<WaitCursor> wait_;  // while a large page is read and laid out
   double zoom_ = 1;
   int wheelTurned_ = 0;
   FindBar* findBar_;

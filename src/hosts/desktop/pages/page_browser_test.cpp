@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +19,7 @@
 #include <QWheelEvent>
 
 #include "hosts/desktop/pages/find_bar.h"
+#include "hosts/desktop/test_files.h"
 #include "hosts/desktop/user_hands.h"
 
 namespace desktop::pages {
@@ -40,15 +41,11 @@ class PageBrowsers : public ::testing::Test {
     browser.resize(500, 400);
     browser.show();
     browser.activateWindow();
-    browser.openPage(path("Veldoria/Tablas/HTML/tabla.html"));
+    open("Veldoria/Tablas/HTML/tabla.html");
     hands::settle();
   }
-  void write(const char* name, const char* text) {
-    QDir().mkpath(QFileInfo(path(name)).path());
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
+  void write(const char* name, const char* text) { testing::writeFile(path(name), text); }
+  void open(const char* name) { browser.openPage(path(name), StudyFolder(path("Veldoria"))); }
   [[nodiscard]] QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
   void follow(const char* address) { browser.setSource(QUrl(QString::fromUtf8(address))); }
   [[nodiscard]] std::string notice() const {
@@ -67,6 +64,18 @@ class PageBrowsers : public ::testing::Test {
     const auto menus = browser.findChildren<QMenu*>();
     return menus.isEmpty() ? QList<QAction*>() : menus.constLast()->actions();
   }
+  [[nodiscard]] bool isOffered(const char* entry) {
+    for (const QAction* action : menu()) {
+      if (QString(action->text()).remove(u'&').startsWith(QString::fromUtf8(entry))) return action->isEnabled();
+    }
+    return false;
+  }
+  static void closePreviews() {
+    while (QWidget* modal = QApplication::activeModalWidget()) {
+      modal->close();
+      hands::settle();
+    }
+  }
   void turnWheel(int steps) {
     QWheelEvent event({10, 10}, browser.mapToGlobal(QPoint(10, 10)), {}, {0, 120 * steps}, Qt::NoButton,
                       Qt::ControlModifier, Qt::NoScrollPhase, false);
@@ -80,21 +89,73 @@ class PageBrowsers : public ::testing::Test {
 TEST_F(PageBrowsers, ShowAPageByItsTitleOrName) {
   EXPECT_EQ(page(), "Una tabla");
   EXPECT_TRUE(browser.toPlainText().startsWith(QStringLiteral("Defunción")));
-  browser.openPage(path("Veldoria/Tablas/HTML/otra.html"));
+  open("Veldoria/Tablas/HTML/otra.html");
   EXPECT_EQ(page(), "otra.html");
   EXPECT_EQ(PageBrowser(nullptr).pageName(), "");
 }
 
 TEST_F(PageBrowsers, SayThatAPageIsMissing) {
-  browser.openPage(path("Veldoria/Tablas/HTML/1999 - <b>.html"));
+  open("Veldoria/Tablas/HTML/1999 - <b>.html");
   EXPECT_EQ(browser.toPlainText().toStdString(),
             "No se encuentra la página\nEl archivo «1999 - <b>.html» no está en la carpeta del estudio.");
   EXPECT_EQ(page(), "1999 - <b>.html");
 }
 
+TEST_F(PageBrowsers, HaveNothingToPrintOrToSearchWhereAPageIsMissingOrRefused) {
+  for (const char* name : {"Veldoria/Tablas/HTML/nada.html", "fuera.html", "Veldoria/Tablas", ""}) {
+    open(name);
+    EXPECT_FALSE(browser.hasPage()) << name;
+    for (const char* entry : {"Imprimir...", "Buscar...", "Seleccionar todo"}) {
+      EXPECT_FALSE(isOffered(entry)) << name << ": " << entry;
+    }
+    for (const Qt::Key key : {Qt::Key_P, Qt::Key_F, Qt::Key_A}) QTest::keyClick(&browser, key, Qt::ControlModifier);
+    QTest::keyClick(&browser, Qt::Key_F3);
+    hands::settle();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << name;
+    EXPECT_FALSE(browser.isFinding()) << name;
+    EXPECT_FALSE(browser.textCursor().hasSelection()) << name;
+    closePreviews();
+  }
+  open("Veldoria/Tablas/HTML/tabla.html");
+  EXPECT_TRUE(browser.hasPage());
+  for (const char* entry : {"Imprimir...", "Buscar...", "Seleccionar todo"}) EXPECT_TRUE(isOffered(entry)) << entry;
+}
+
+TEST_F(PageBrowsers, FindNoWordsInTheNoticeOfAMissingPage) {
+  browser.openFind();
+  QTest::keyClicks(&words(), "archivo");
+  open("Veldoria/Tablas/HTML/nada.html");
+  EXPECT_EQ(places(), "No se encuentra");
+}
+
+TEST_F(PageBrowsers, SayThatAPageIsMissingAtEachZoomAndEachTime) {
+  const std::string missing = "No se encuentra la página\nEl archivo «nada.html» no está en la carpeta del estudio.";
+  open("Veldoria/Tablas/HTML/nada.html");
+  browser.zoomBy(1);
+  EXPECT_EQ(browser.toPlainText().toStdString(), missing);
+  EXPECT_EQ(page(), "nada.html");
+  open("Veldoria/Tablas/HTML/nada.html");
+  EXPECT_EQ(browser.toPlainText().toStdString(), missing);
+  EXPECT_EQ(page(), "nada.html");
+  write("Veldoria/Tablas/HTML/nada.html", "ya está");
+  open("Veldoria/Tablas/HTML/nada.html");
+  EXPECT_EQ(browser.toPlainText(), QStringLiteral("ya está"));
+}
+
+TEST_F(PageBrowsers, DoNotPrintAPageThatHasGoneMeanwhile) {
+  QFile::remove(path("Veldoria/Tablas/HTML/tabla.html"));
+  browser.previewPrint();
+  hands::settle();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(notice(), "La página ya no está en la carpeta del estudio: tabla.html");
+  browser.zoomBy(1);
+  EXPECT_FALSE(browser.hasPage());
+  EXPECT_TRUE(browser.toPlainText().startsWith(QStringLiteral("No se encuentra la página")));
+}
+
 TEST_F(PageBrowsers, ReadAPageAnewThatIsAskedForAgain) {
   write("Veldoria/Tablas/HTML/tabla.html", "<title>Otra tabla</title>");
-  browser.openPage(path("Veldoria/Tablas/HTML/tabla.html"));
+  open("Veldoria/Tablas/HTML/tabla.html");
   EXPECT_EQ(page(), "Otra tabla");
 }
 
@@ -159,7 +220,7 @@ TEST_F(PageBrowsers, AreZoomedByKeysAndWheel) {
 
 TEST_F(PageBrowsers, AZoomKeepsThePlace) {
   write("Veldoria/Tablas/HTML/larga.html", QByteArray("<p>línea").repeated(300).constData());
-  browser.openPage(path("Veldoria/Tablas/HTML/larga.html"));
+  open("Veldoria/Tablas/HTML/larga.html");
   QScrollBar* bar = browser.verticalScrollBar();
   bar->setValue(bar->maximum() / 2);
   browser.zoomBy(3);
@@ -198,7 +259,7 @@ TEST_F(PageBrowsers, TheRowToFindWordsTakesWhatIsSelectedAndLivesThroughOtherPag
   EXPECT_EQ(words().text(), "Tasa");
   EXPECT_EQ(places(), "1 de 1");
   EXPECT_LE(browser.viewport()->geometry().bottom(), browser.findChild<FindBar*>()->geometry().top());
-  browser.openPage(path("Veldoria/Tablas/HTML/otra.html"));
+  open("Veldoria/Tablas/HTML/otra.html");
   EXPECT_EQ(places(), "No se encuentra");
   browser.zoomBy(1);
   words().clear();
@@ -222,18 +283,12 @@ TEST_F(PageBrowsers, HaveASpanishMenu) {
   }
   EXPECT_EQ(texts, QStringList({"Copiar", "Seleccionar todo", "Buscar...", "Acercar", "Alejar", "Tamaño normal",
                                 "Imprimir..."}));
-  const auto enabled = [this](const char* text) {
-    for (const QAction* action : menu()) {
-      if (QString(action->text()).remove(u'&').startsWith(QString::fromUtf8(text))) return action->isEnabled();
-    }
-    return false;
-  };
-  EXPECT_FALSE(enabled("Copiar"));
-  EXPECT_FALSE(enabled("Tamaño normal"));
+  EXPECT_FALSE(isOffered("Copiar"));
+  EXPECT_FALSE(isOffered("Tamaño normal"));
   browser.selectAll();
   browser.zoomBy(1);
-  EXPECT_TRUE(enabled("Copiar"));
-  EXPECT_TRUE(enabled("Tamaño normal"));
+  EXPECT_TRUE(isOffered("Copiar"));
+  EXPECT_TRUE(isOffered("Tamaño normal"));
 }
 
 TEST_F(PageBrowsers, OpenAPreviewOfThePrintedPage) {
@@ -247,22 +302,46 @@ TEST_F(PageBrowsers, OpenAPreviewOfThePrintedPage) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_F(PageBrowsers, ShowThatALargePageTakesTimeAndLayItOutOnce) {
+  const auto rows = [](int count) { return "<table>" + QByteArray("<tr><td>1999<td>9,1").repeated(count); };
+  std::vector<double> widths;  // of the layouts
+  bool waits = false;
+  QObject::connect(browser.document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, &browser,
+                   [&] {
+                     widths.push_back(browser.document()->pageSize().width());
+                     waits = waits || QApplication::overrideCursor() != nullptr;
+                   });
+  write("Veldoria/Tablas/HTML/otra.html", rows(10).constData());
+  open("Veldoria/Tablas/HTML/otra.html");
+  EXPECT_FALSE(waits);
+  EXPECT_FALSE(browser.verticalScrollBar()->isVisible());
+  write("Veldoria/Tablas/HTML/grande.html", rows(8000).constData());
+  widths.clear();
+  open("Veldoria/Tablas/HTML/grande.html");
+  EXPECT_TRUE(waits);
+  EXPECT_EQ(widths, std::vector<double>{static_cast<double>(browser.viewport()->width())});
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_TRUE(browser.verticalScrollBar()->isVisible());
+  open("Veldoria/Tablas/HTML/tabla.html");
+  EXPECT_FALSE(browser.verticalScrollBar()->isVisible());
+}
+
 TEST_F(PageBrowsers, TakeThePagesOwnGroundAndLetItGo) {
   write("Veldoria/Tablas/HTML/azul.html", "<body bgcolor='#3366cc' style='max-width:200px;margin:0 auto'>a");
-  browser.openPage(path("Veldoria/Tablas/HTML/azul.html"));
+  open("Veldoria/Tablas/HTML/azul.html");
   hands::settle();
   EXPECT_EQ(browser.grab().toImage().pixelColor(250, 300), QColor(0x33, 0x66, 0xCC));
   const double beside = browser.document()->rootFrame()->frameFormat().leftMargin();
   EXPECT_NEAR(beside, (browser.viewport()->width() - 200) / 2.0, 1);
-  browser.openPage(path("Veldoria/Tablas/HTML/otra.html"));
+  open("Veldoria/Tablas/HTML/otra.html");
   hands::settle();
   EXPECT_EQ(browser.grab().toImage().pixelColor(250, 300), QColor(Qt::white));
 }
 
-TEST_F(PageBrowsers, PagesAreEachReadFromTheStudyAroundThem) {
-  write("Veldoria/Tablas/HTML/sub/x.html", "<link rel=stylesheet href='../hoja.css'><p>x");
-  write("Veldoria/Tablas/HTML/hoja.css", "p { color: #ff0000 }");
-  browser.openPage(path("Veldoria/Tablas/HTML/sub/x.html"));
+TEST_F(PageBrowsers, ReadWhatAPageNeedsFromTheWholeStudy) {
+  write("Veldoria/Tablas/HTML/sub/x.html", "<link rel=stylesheet href='../../../Archivos/hoja.css'><p>x");
+  write("Veldoria/Archivos/hoja.css", "p { color: #ff0000 }");
+  open("Veldoria/Tablas/HTML/sub/x.html");
   EXPECT_EQ(browser.document()->find(QStringLiteral("x")).charFormat().foreground().color(), QColor(255, 0, 0));
 }
 

@@ -13,6 +13,7 @@
 
 #include "hosts/desktop/pages/page_text.h"
 #include "hosts/desktop/theme.h"
+#include "hosts/desktop/wait_cursor.h"
 
 namespace desktop::pages {
 namespace {
@@ -104,7 +105,6 @@ void printPage(QPrinter& printer, const QByteArray& page, const QString& name) {
   const QSizeF sheet(paper.width() / fit, (paper.height() - kFootHeight) / fit);
   document.setPageSize(sheet);
   keepNamesWithTables(document);
-  printer.setDocName(name);
   QPainter painter(&printer);
   painter.scale(scale, scale);
   const int sheets = document.pageCount();
@@ -119,7 +119,9 @@ void printPage(QPrinter& printer, const QByteArray& page, const QString& name) {
 }
 
 void previewPage(QWidget& parent, const QByteArray& page, const QString& name) {
+  const WaitCursor wait;
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(name);
   printer->setPageSize(QPageSize(QPageSize::A4));
   printer->setPageOrientation(wantsLandscape(page) ? QPageLayout::Landscape : QPageLayout::Portrait);
   const QMarginsF margins(kMillimetresMargin, kMillimetresMargin, kMillimetresMargin, kMillimetresMargin);
@@ -128,8 +130,10 @@ void previewPage(QWidget& parent, const QByteArray& page, const QString& name) {
   preview->setAttribute(Qt::WA_DeleteOnClose);
   preview->setWindowTitle(QStringLiteral("Vista preliminar: %1").arg(name));
   preview->resize(kPreviewSize);
-  QObject::connect(preview, &QPrintPreviewDialog::paintRequested, preview,
-                   [printer, page, name](QPrinter* paper) { printPage(*paper, page, name); });
+  QObject::connect(preview, &QPrintPreviewDialog::paintRequested, preview, [printer, page, name](QPrinter* paper) {
+    const WaitCursor waits;
+    printPage(*paper, page, name);
+  });
   preview->open();
 }
 

@@ -1,5 +1,6 @@
 #include "hosts/desktop/pages/page_styles.h"
 
+#include <algorithm>
 #include <array>
 
 #include "hosts/desktop/pages/style_properties.h"
@@ -185,6 +186,18 @@ PageStyle beginningOf(Tag tag, const PageStyle& outer) {
   return style;
 }
 
+// Whether all that styles can ask of the two elements is the same: what they are and what they stand in.
+bool areAlike(const Node* one, const Node* other) {
+  while (one != other) {
+    if (one == nullptr || other == nullptr || one->tag != other->tag || one->attributes != other->attributes) {
+      return false;
+    }
+    one = one->parent;
+    other = other->parent;
+  }
+  return true;
+}
+
 }  // namespace
 
 Declarations attributeDeclarations(const Node& node) { return Reading(node).declarations(); }
@@ -192,6 +205,19 @@ Declarations attributeDeclarations(const Node& node) { return Reading(node).decl
 PageStyles::PageStyles() : declarationsLeft_(kMostDeclarations) { ownSheet_.add(QString::fromLatin1(kOwnSheet)); }
 
 PageStyle PageStyles::styleOf(const Node& node, const PageStyle& outer) {
+  constexpr std::size_t kMostKnown = 12;
+  if (!isCell(node.tag) && node.tag != Tag::tr) return readStyle(node, outer);
+  const auto isSame = [&](const Known& each) { return areAlike(each.node, &node) && each.outer == outer; };
+  const auto found = std::ranges::find_if(known_, isSame);
+  if (found != known_.end()) return found->style;
+  if (known_.size() < kMostKnown) known_.emplace_back();
+  Known& replaced = known_[oldest_];
+  oldest_ = (oldest_ + 1) % kMostKnown;
+  replaced = {&node, outer, readStyle(node, outer)};
+  return replaced.style;
+}
+
+PageStyle PageStyles::readStyle(const Node& node, const PageStyle& outer) {
   PageStyle style = beginningOf(node.tag, outer);
   std::vector<const Declarations*> all = ownSheet_.declarationsFor(node);
   const Declarations attributes = attributeDeclarations(node);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
 #include "hosts/desktop/pages/page_style.h"
 #include "hosts/desktop/pages/page_tree.h"
@@ -15,15 +16,30 @@ class PageStyles {
   PageStyles();
 
   // Takes in a style sheet of the page.
-  void add(QStringView css) { sheet_.add(css); }
+  void add(QStringView css) {
+    sheet_.add(css);
+    known_.clear();
+    oldest_ = 0;
+  }
 
-  // The style of an element that stands in one of the style `outer`.
+  // The style of an element that stands in one of the style `outer`. The elements asked for outlive this.
   [[nodiscard]] PageStyle styleOf(const Node& node, const PageStyle& outer);
 
  private:
+  // A part of a table that was asked for lately: tables have many cells and rows, and few that differ.
+  struct Known {
+    const Node* node = nullptr;
+    PageStyle outer;
+    PageStyle style;
+  };
+
+  [[nodiscard]] PageStyle readStyle(const Node& node, const PageStyle& outer);
+
   StyleSheet ownSheet_;  // what elements look like where the page says nothing
   StyleSheet sheet_;
   int declarationsLeft_;
+  std::vector<Known> known_;
+  std::size_t oldest_ = 0;
 };
 
 // What the element's attributes say of its look, as declarations: `bgcolor`, `align`, `nowrap`, `<font size>` and the

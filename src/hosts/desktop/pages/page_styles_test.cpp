@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace desktop::pages {
 namespace {
 
@@ -132,6 +134,38 @@ TEST(PageStyles, NonsenseChangesNothing) {
     EXPECT_EQ(style.lineHeight, plain.lineHeight) << own;
     EXPECT_FALSE(style.hasBorder()) << own;
   }
+}
+
+TEST(PageStyles, CellsThatLookAlikeInAllButWhatTheyStandInAreToldApart) {
+  const PageTree tree = treeOf(
+      u"<table><tr><td>1<td>2<td class=a>3<tr class=b><td>4<td style='color:#0000ff'>5<tbody id=c><tr><td>6</table>");
+  PageStyles styles;
+  styles.add(u"td { color: #000001 } td.a { color: #000002 } tr.b td { color: #000003 } #c td { color: #000004 }");
+  QStringList colors;
+  const std::function<void(const Node&, const PageStyle&)> visit = [&](const Node& node, const PageStyle& outer) {
+    if (node.tag == Tag::text) return;
+    const PageStyle style = styles.styleOf(node, outer);
+    if (node.tag == Tag::td) colors += style.text.color.name().last(2);
+    for (const auto& child : node.children) visit(*child, style);
+  };
+  visit(tree.body(), {});
+  EXPECT_EQ(colors.join(u' ').toStdString(), "01 01 02 03 ff 04");
+  styles.add(u"td { color: #000009 }");
+  colors.clear();
+  visit(tree.body(), {});
+  EXPECT_EQ(colors.join(u' ').toStdString(), "09 09 02 03 ff 04");
+}
+
+TEST(PageStyles, CellsOfRowsInAnotherStyleAreToldApart) {
+  const PageTree tree = treeOf(u"<table><tr><td>1");
+  const Node& cell = *tree.body().children[0]->children[0]->children[0];
+  ASSERT_EQ(cell.tag, Tag::td);
+  PageStyles styles;
+  PageStyle outer;
+  outer.text.color = QColor(1, 2, 3);
+  EXPECT_EQ(styles.styleOf(cell, outer).text.color, outer.text.color);
+  outer.text.color = QColor(4, 5, 6);
+  EXPECT_EQ(styles.styleOf(cell, outer).text.color, outer.text.color);
 }
 
 }  // namespace

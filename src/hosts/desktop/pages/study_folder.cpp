@@ -1,24 +1,12 @@
 #include "hosts/desktop/pages/study_folder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <array>
 
 #include "platform/paths.h"
 
 namespace desktop::pages {
 namespace {
-
-// Where an application folder keeps its pages.
-constexpr std::array kPageFolders{QLatin1String("Tablas"), QLatin1String("Archivos"), QLatin1String("Ayuda")};
-
-bool holdsPages(const QString& folder) {
-  for (const QLatin1String& name : kPageFolders) {
-    if (folder.compare(name, Qt::CaseInsensitive) == 0) return true;
-  }
-  return false;
-}
 
 QString realPath(const QString& path) {
   return QFileInfo(QString::fromStdString(platform::machinePath(path.toStdString()).string())).canonicalFilePath();
@@ -27,16 +15,9 @@ QString realPath(const QString& path) {
 }  // namespace
 
 StudyFolder::StudyFolder(const QString& folder) {
+  if (folder.isEmpty()) return;
   const QString real = realPath(folder);
   if (!real.isEmpty()) root_ = real.endsWith(u'/') ? real : real + u'/';
-}
-
-StudyFolder StudyFolder::around(const QString& page) {
-  const QString own = QFileInfo(page).absolutePath();
-  for (QString at = own; at.size() > 1; at = QFileInfo(at).path()) {
-    if (holdsPages(QFileInfo(at).fileName())) return StudyFolder(QFileInfo(at).path());
-  }
-  return StudyFolder(own);
 }
 
 QString StudyFolder::fileAt(const QUrl& address) const {
@@ -49,7 +30,7 @@ QString StudyFolder::fileAt(const QUrl& address) const {
 
 QByteArray firstBytes(const QString& file, qint64 most) {
   QFile opened(file);
-  if (!opened.open(QIODevice::ReadOnly)) return {};
+  if (file.isEmpty() || !opened.open(QIODevice::ReadOnly)) return {};
   return opened.read(most);
 }
 

@@ -12,11 +12,8 @@ class StudyFolder {
  public:
   // A folder that holds nothing.
   StudyFolder() = default;
+  // The application folder, by its machine path; one that holds nothing where there is no such folder.
   explicit StudyFolder(const QString& folder);
-
-  // The application folder that a page lies in: the one that holds the folder "Tablas", "Archivos" or "Ayuda" nearest
-  // above the page; else the page's own folder. The page itself need not exist.
-  [[nodiscard]] static StudyFolder around(const QString& page);
 
   // The real path of the file at an address, or empty where there is none in this folder. Names are matched without
   // regard to case.
@@ -26,7 +23,7 @@ class StudyFolder {
   QString root_;  // its real path with "/" at the end, or empty
 };
 
-// The first `most` bytes of a file, or nothing.
+// The first `most` bytes of a file, or nothing; of no file ("") nothing too.
 [[nodiscard]] QByteArray firstBytes(const QString& file, qint64 most);
 
 }  // namespace desktop::pages

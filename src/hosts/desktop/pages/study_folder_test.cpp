@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "hosts/desktop/test_files.h"
+
 namespace desktop::pages {
 namespace {
 
@@ -14,33 +16,20 @@ class StudyFolders : public ::testing::Test {
   void SetUp() override {
     write("fuera.html");
     write("Veldoria/Tablas/HTML/0/uno.html");
-    write("Veldoria/Tablas/HTML/Ayuda/dos.html");
     write("Veldoria/Ayuda/Ayuda.html");
   }
-  void write(const char* name) {
-    const QString path = outer.filePath(QString::fromUtf8(name));
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(name);
-  }
+  void write(const char* name) { testing::writeFile(path(name), name); }
   [[nodiscard]] QString path(const char* name) const { return outer.filePath(QString::fromUtf8(name)); }
   [[nodiscard]] QUrl url(const char* name) const { return QUrl::fromLocalFile(path(name)); }
 
   QTemporaryDir outer;
 };
 
-TEST_F(StudyFolders, ArePutAroundAPageByTheFoldersOfPages) {
-  const StudyFolder study = StudyFolder::around(path("Veldoria/Tablas/HTML/0/uno.html"));
+TEST_F(StudyFolders, HoldTheFilesOfTheStudy) {
+  const StudyFolder study(path("Veldoria"));
   EXPECT_FALSE(study.fileAt(url("Veldoria/Tablas/HTML/0/uno.html")).isEmpty());
   EXPECT_FALSE(study.fileAt(url("Veldoria/Ayuda/Ayuda.html")).isEmpty());
-  EXPECT_TRUE(study.fileAt(url("fuera.html")).isEmpty());
-  // The nearest such folder counts, and a page need not be there.
-  const StudyFolder inner = StudyFolder::around(path("Veldoria/Tablas/HTML/ayuda/tres.html"));
-  EXPECT_FALSE(inner.fileAt(url("Veldoria/Tablas/HTML/0/uno.html")).isEmpty());
-  EXPECT_TRUE(inner.fileAt(url("Veldoria/Ayuda/Ayuda.html")).isEmpty());
-  const StudyFolder own = StudyFolder::around(path("fuera.html"));
-  EXPECT_FALSE(own.fileAt(url("fuera.html")).isEmpty());
+  for (const char* name : {"", "nada"}) EXPECT_TRUE(StudyFolder(name).fileAt(url("fuera.html")).isEmpty()) << name;
 }
 
 TEST_F(StudyFolders, HoldNothingThatIsOutside) {
@@ -73,6 +62,11 @@ TEST_F(StudyFolders, FilesAreReadSoFar) {
   EXPECT_EQ(firstBytes(path("fuera.html"), 5), "fuera");
   EXPECT_EQ(firstBytes(path("nada.html"), 5), "");
   EXPECT_EQ(firstBytes(outer.path(), 5), "");
+  static int warnings = 0;
+  const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++warnings; });
+  EXPECT_EQ(firstBytes("", 5), "");
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, 0);
 }
 
 }  // namespace

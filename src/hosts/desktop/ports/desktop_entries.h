@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// Which program of the user's desktop opens which kind of file, as freedesktop.org's "Association between MIME types
-// and applications" and "Desktop Entry Specification" have it.
+// Which program of the user's desktop opens which kind of file, as freedesktop.org describes associations between kinds
+// of files and applications, and desktop entries.
 namespace desktop {
 
 // The command that opens a file of that kind ("application/pdf"): the program and its words, the file among them. The

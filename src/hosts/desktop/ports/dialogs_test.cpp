@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
@@ -15,12 +14,16 @@
 #include "hosts/desktop/pages/help_window.h"
 #include "hosts/desktop/pages/page_browser.h"
 #include "hosts/desktop/ports/qt_dialogs.h"
+#include "hosts/desktop/test_failures.h"
+#include "hosts/desktop/test_files.h"
 #include "hosts/desktop/user_hands.h"
 #include "hosts/headless/headless_files.h"
-#include "text/failure.h"
 
 namespace desktop {
 namespace {
+
+using testing::failureOf;
+using testing::writeFile;
 
 class Dialogs : public ::testing::Test {
  protected:
@@ -36,12 +39,6 @@ class Dialogs : public ::testing::Test {
     EXPECT_TRUE(isSeen);
     return chosen;
   }
-  void write(const QString& path, const char* text) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
   [[nodiscard]] static QLineEdit& nameIn(QFileDialog& dialog) {
     return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   }
@@ -52,20 +49,12 @@ class Dialogs : public ::testing::Test {
     }
     return windows;
   }
-  int failureOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Failure& failure) {
-      return failure.number();
-    }
-    return 0;
-  }
 
   QTemporaryDir folder;
   headless::HeadlessFiles files;
   ProgramCalls calls;
   motor::WidgetHandles handles;
-  QtHost host{calls, handles};
+  QtHost host{calls, handles, folder.path().toStdString()};
   std::optional<QtDialogs> dialogs_{std::in_place, host, files};
   QtDialogs& dialogs = *dialogs_;
 };
@@ -86,7 +75,7 @@ TEST_F(Dialogs, SavingAsksForANameWithTheProposedOne) {
 
 TEST_F(Dialogs, ANameThatExistsIsTakenAsItIs) {
   const QString target = folder.filePath("existe.html");
-  write(target, "antes");
+  writeFile(target, "antes");
   EXPECT_EQ(save("a",
                  [&](QFileDialog& dialog) {
                    nameIn(dialog).setText(target);
@@ -104,7 +93,7 @@ TEST_F(Dialogs, HelpShowsThePageInAWindowOfTheProgram) {
   const std::string older = folder.path().toStdString() + "\\Ayuda\\AYUDA.hlp";
   EXPECT_EQ(failureOf([&] { dialogs.help(older, 3); }), failures::kFileNotFound);
   EXPECT_TRUE(helpWindows().isEmpty());
-  write(page, "<title>Ayuda</title>hola");
+  writeFile(page, "<title>Ayuda</title>hola");
   dialogs.help(older, 3);
   hands::settle();
   ASSERT_EQ(helpWindows().size(), 1);

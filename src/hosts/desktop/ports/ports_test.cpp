@@ -6,19 +6,19 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <functional>
 
 #include "hosts/desktop/ports/desktop_files.h"
 #include "hosts/desktop/ports/desktop_registry.h"
 #include "hosts/desktop/ports/qt_dialogs.h"
 #include "hosts/desktop/ports/qt_messages.h"
 #include "hosts/desktop/ports/qt_programs.h"
+#include "hosts/desktop/test_failures.h"
 #include "hosts/headless/headless_files.h"
-#include "text/failure.h"
 
 namespace desktop {
 namespace {
 
+using testing::failureOf;
 using Words = std::vector<std::string>;
 
 struct FakeDesktop : DesktopPrograms {
@@ -47,14 +47,6 @@ class DesktopPorts : public ::testing::Test {
     EXPECT_EQ(queried.data.size(), size);
     registry.closeKey(opened.key);
     return {queried.data.begin(), queried.data.end() - 1};
-  }
-  int failureOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Failure& failure) {
-      return failure.number();
-    }
-    return 0;
   }
 
   FakeDesktop programs;

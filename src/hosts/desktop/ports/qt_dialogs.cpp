@@ -1,26 +1,16 @@
 #include "hosts/desktop/ports/qt_dialogs.h"
 
-#include <QDir>
 #include <QFileDialog>
-#include <QStandardPaths>
 #include <utility>
 
 #include "hosts/desktop/pages/help_window.h"
+#include "hosts/desktop/proposed_files.h"
 #include "platform/paths.h"
 #include "text/failure.h"
 #include "text/utf8.h"
 
 namespace desktop {
 namespace {
-
-// Where a file of that name is proposed: among the user's documents, or at home where there is no folder for them. What
-// no file's name may hold becomes a hyphen.
-QString proposed(const std::string& name) {
-  QString file = QString::fromStdString(name);
-  file.replace(QLatin1Char('/'), QLatin1Char('-'));
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return QDir(QDir(folder).exists() && !folder.isEmpty() ? folder : QDir::homePath()).filePath(file);
-}
 
 bool isPattern(const QString& text) { return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')); }
 
@@ -31,9 +21,9 @@ QtDialogs::QtDialogs(QtHost& host, platform::Files& files) : host_(host), files_
 QtDialogs::~QtDialogs() = default;
 
 std::string QtDialogs::save(const std::string& title, const std::string& filter, const std::string& name) {
-  const QString chosen =
-      QFileDialog::getSaveFileName(host_.frontWindow(), QString::fromStdString(title), proposed(name),
-                                   toolkitFilter(filter), nullptr, QFileDialog::DontConfirmOverwrite);
+  const QString chosen = QFileDialog::getSaveFileName(host_.frontWindow(), QString::fromStdString(title),
+                                                      proposedFile(QString::fromStdString(name)), toolkitFilter(filter),
+                                                      nullptr, QFileDialog::DontConfirmOverwrite);
   return chosen.isEmpty() ? name : chosen.toStdString();
 }
 
@@ -44,7 +34,8 @@ void QtDialogs::help(const std::string& file, int /*command*/) {
   if (files_.lookUp(page).empty()) throw failures::fileNotFound();
   if (help_ == nullptr) {
     const QString path = QString::fromStdString(platform::machinePath(page).string());
-    help_ = std::make_unique<pages::HelpWindow>(path, host_.frontWindow());
+    help_ = std::make_unique<pages::HelpWindow>(
+        path, pages::StudyFolder(QString::fromStdString(host_.applicationFolder())), host_.frontWindow());
   }
   help_->showContents();
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -10,6 +9,7 @@
 #include <utility>
 
 #include "hosts/desktop/ports/desktop_entries.h"
+#include "hosts/desktop/test_files.h"
 
 namespace desktop {
 namespace {
@@ -31,11 +31,7 @@ class UsersDesktop : public ::testing::Test {
   }
 
   void write(const char* name, const QByteArray& text) {
-    const QString path = folder.filePath(QLatin1String(name));
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
+    testing::writeFile(folder.filePath(QLatin1String(name)), text);
   }
   // A program that notes its words in the file "abierto", one a line.
   QByteArray program(const char* name) {

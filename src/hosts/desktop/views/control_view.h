@@ -32,7 +32,8 @@ class ControlView : public QObject {
   virtual void cleared() {}
   virtual void nodeAdded(const forms::Node& /*node*/) {}
   virtual void nodeExpanded(const forms::Node& /*node*/) {}
-  virtual void navigated(const std::string& /*path*/) {}
+  // A page of the application folder is to be shown; nothing outside the folder is read for it.
+  virtual void navigated(const std::string& /*path*/, const std::string& /*applicationFolder*/) {}
 
   // True for what a user must see while a long handler runs: its writes are painted at once.
   [[nodiscard]] virtual bool paintsAtOnce() const { return false; }

@@ -1,9 +1,12 @@
 #include "hosts/desktop/views/tool_button.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <algorithm>
 #include <utility>
 
 #include "hosts/desktop/artwork.h"
+#include "hosts/desktop/focus_order.h"
 #include "hosts/desktop/theme.h"
 
 namespace desktop {
@@ -21,6 +24,37 @@ void ToolButton::setCurrent(bool current) {
   current_ = current;
   setAccessibleDescription(current ? QStringLiteral("Comando actual") : QString());
   update();
+}
+
+void ToolButton::keyPressEvent(QKeyEvent* event) {
+  const std::vector<QWidget*> all = toolbarAround(*window(), *this);
+  const auto here = static_cast<std::size_t>(std::ranges::find(all, this) - all.begin());
+  std::size_t target = 0;
+  switch (event->key()) {
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      target = here + 1;
+      break;
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      target = here + all.size() - 1;
+      break;
+    case Qt::Key_Home:
+      break;
+    case Qt::Key_End:
+      target = all.size() - 1;
+      break;
+    default:
+      return PointedButton::keyPressEvent(event);
+  }
+  if (all.size() < 2) return PointedButton::keyPressEvent(event);
+  all[target % all.size()]->setFocus(event->key() == Qt::Key_Left ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+}
+
+void ToolButton::focusInEvent(QFocusEvent* event) {
+  static int entries = 0;
+  lastEntered_ = ++entries;
+  PointedButton::focusInEvent(event);
 }
 
 void ToolButton::paintEvent(QPaintEvent*) {

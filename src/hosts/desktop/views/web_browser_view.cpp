@@ -10,8 +10,9 @@ WebBrowserView::WebBrowserView(forms::WebBrowser& browser, QWidget& parent, Prog
   adopt(page_);
 }
 
-void WebBrowserView::navigated(const std::string& path) {
-  page_->openPage(QString::fromStdString(platform::machinePath(path).string()));
+void WebBrowserView::navigated(const std::string& path, const std::string& applicationFolder) {
+  page_->openPage(QString::fromStdString(platform::machinePath(path).string()),
+                  pages::StudyFolder(QString::fromStdString(applicationFolder)));
 }
 
 QString WebBrowserView::locationName() const { return page_->pageName(); }

@@ -15,7 +15,7 @@ class PageBrowser;
 class WebBrowserView : public ControlView {
  public:
   WebBrowserView(forms::WebBrowser& browser, QWidget& parent, ProgramCalls& calls);
-  void navigated(const std::string& path) override;
+  void navigated(const std::string& path, const std::string& applicationFolder) override;
 
   // The title of the page shown, else its file's name.
   [[nodiscard]] QString locationName() const;

@@ -1,131 +1,126 @@
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
 #include "motor/language/parsing/style_parser.h"
+#include "motor/language/parsing/window_shape_parser.h"
 
 // Create Cartographic Legend.
 namespace motor {
 
 namespace {
 
-// [Font (...)], which frames keep for themselves.
-void readFont(TokenStream& stream) {
-  if (stream.isWord("font")) static_cast<void>(parseStyleClause(stream, StyleClause::Kind::font));
+// [Font (...)]
+void acceptFont(TokenStream& stream, std::optional<StyleClause>& font) {
+  if (stream.isWord("font")) font = parseStyleClause(stream, StyleClause::Kind::font);
 }
 
 // Text t  {Line Pen ... | Region Pen ... Brush ... | Symbol ...}
-LegendSample parseSample(TokenStream& stream, Position position) {
+LegendSample parseSample(TokenStream& stream) {
   LegendSample sample;
-  sample.position = position;
+  sample.position = stream.before().position;
   sample.text = parseExpression(stream);
-  if (stream.isWord("line") && !stream.isSign("(", 1)) stream.next();
-  stream.acceptWord("region");
+  if (stream.isWord("line")) {
+    sample.kind = LegendSample::Kind::line;
+    if (!stream.isSign("(", 1)) stream.next();
+  } else if (stream.acceptWord("region") || stream.isWord("pen") || stream.isWord("brush")) {
+    sample.kind = LegendSample::Kind::region;
+  }
   sample.style = parseStyleList(stream);
   return sample;
 }
 
 // Style [Font (...)] [NoRefresh] sample ...
-void parseSamples(TokenStream& stream, LegendFrame& frame) {
-  readFont(stream);
+void readSamples(TokenStream& stream, LegendFrame& frame) {
+  acceptFont(stream, frame.sampleFont);
   stream.acceptWord("norefresh");
-  while (stream.isWord("text")) {
-    const Position position = stream.position();
-    stream.next();
-    frame.samples.push_back(parseSample(stream, position));
-  }
+  while (stream.acceptWord("text")) frame.samples.push_back(parseSample(stream));
 }
 
 // Using [Column c | Column Object] [Label e | Label Default]
-void readUsing(TokenStream& stream) {
+void ignoreUsing(TokenStream& stream, LegendFrame& /*frame*/) {
   if (stream.acceptWord("column")) static_cast<void>(parseExpression(stream));
   if (stream.acceptWord("label") && !stream.acceptWord("default")) static_cast<void>(parseExpression(stream));
 }
 
-bool acceptFrameClause(TokenStream& stream, LegendFrame& frame) {
-  if (stream.acceptWord("position")) {
-    static_cast<void>(parsePlacement(stream));
-  } else if (stream.acceptWord("border")) {
-    static_cast<void>(parseStyleClause(stream, StyleClause::Kind::pen));
-  } else if (stream.acceptWord("title")) {
-    frame.title = parseExpression(stream);
-    readFont(stream);
-  } else if (stream.acceptWord("subtitle")) {
-    frame.subtitle = parseExpression(stream);
-    readFont(stream);
-  } else if (stream.acceptWord("using")) {
-    readUsing(stream);
-  } else if (stream.acceptWord("style")) {
-    parseSamples(stream, frame);
-  } else {
-    return false;
-  }
-  return true;
+template <typename Part>
+void ignoreBorder(TokenStream& stream, Part& /*part*/) {
+  static_cast<void>(parseStyleClause(stream, StyleClause::Kind::pen));
 }
 
-LegendFrame parseFrame(TokenStream& stream, Position position) {
+// t [Font (...)]
+template <auto kField, typename Part>
+void readText(TokenStream& stream, Part& part) {
+  FrameText& text = part.*kField;
+  if (!stream.isWord("font")) text.text = parseExpression(stream);
+  acceptFont(stream, text.font);
+}
+
+using FrameRule = ClauseRule<LegendFrame>;
+
+constexpr std::array kFrameRules = {
+    FrameRule{"position", Support::done,
+              [](TokenStream& stream, LegendFrame& frame) { frame.place = parsePlacement(stream); }},
+    FrameRule{"title", Support::done, readText<&LegendFrame::title>},
+    FrameRule{"subtitle", Support::done, readText<&LegendFrame::subtitle>},
+    FrameRule{"style", Support::done, readSamples},
+    FrameRule{"border", Support::passedOver, ignoreBorder<LegendFrame>},
+    FrameRule{"using", Support::passedOver, ignoreUsing},
+};
+
+LegendFrame parseFrame(TokenStream& stream) {
   LegendFrame frame;
-  frame.position = position;
+  frame.position = stream.before().position;
   stream.expectWord("from", "From Layer");
   stream.expectWord("layer", "Layer");
   frame.layer = parseLayerReference(stream);
-  while (acceptFrameClause(stream, frame)) {
-  }
+  acceptClauses<LegendFrame>(stream, kFrameRules, frame);
   return frame;
 }
 
-// Default Frame {Title t | Subtitle t | Style t | Border Pen ...} [Font (...)]
-void readFrameDefault(TokenStream& stream) {
-  stream.expectWord("frame", "Frame");
-  if (stream.acceptWord("border")) {
-    static_cast<void>(parseStyleClause(stream, StyleClause::Kind::pen));
-    return;
-  }
-  if (!stream.acceptWord("title") && !stream.acceptWord("subtitle") && !stream.acceptWord("style")) {
-    stream.failExpecting("Title, Subtitle, Style o Border");
-  }
-  if (!stream.isWord("font")) static_cast<void>(parseExpression(stream));
-  readFont(stream);
+[[noreturn]] void failDefault(TokenStream& stream, CreateCartographicLegend& /*legend*/) {
+  stream.failExpecting("Frame Title, Frame Subtitle, Frame Style o Frame Border");
 }
 
-bool acceptLook(TokenStream& stream) {
-  if (stream.acceptWord("scrollbars")) {
-    static_cast<void>(parseSwitch(stream));
-    return true;
-  }
-  if (stream.acceptWords("style", "size")) {
-    if (!stream.acceptWord("small") && !stream.acceptWord("large")) stream.failExpecting("Small o Large");
-    return true;
-  }
-  return stream.acceptWord("behind") || stream.acceptWord("portrait") || stream.acceptWord("landscape") ||
-         stream.acceptWord("custom");
-}
+using Rule = ClauseRule<CreateCartographicLegend>;
+using Legend = CreateCartographicLegend;
 
-bool acceptLegendClause(TokenStream& stream, CreateCartographicLegend& legend) {
-  if (acceptWindowShape(stream, legend.shape) || acceptLook(stream)) return true;
-  if (stream.acceptWords("window", "title")) {
-    legend.title = parseExpression(stream);
-  } else if (stream.acceptWords("from", "window")) {
-    legend.window = parseExpression(stream);
-  } else if (stream.acceptWord("default")) {
-    readFrameDefault(stream);
-  } else {
-    return false;
-  }
-  return true;
-}
+constexpr std::array kRules = {
+    Rule{"from window", Support::done, readExpression<&Legend::window>},
+    Rule{"default frame title", Support::done, readText<&Legend::defaultTitle>},
+    Rule{"default frame subtitle", Support::done, readText<&Legend::defaultSubtitle>},
+    Rule{"default frame style", Support::done, readText<&Legend::defaultStyle>},
+    Rule{"default frame border", Support::passedOver, ignoreBorder<Legend>},
+    Rule{"default", Support::incomplete, failDefault},
+    Rule{"window title", Support::passedOver, ignoreExpression<Legend>},
+    Rule{"scrollbars", Support::passedOver, ignoreSwitch<Legend>},
+    Rule{"style size small", Support::passedOver, readNothing<Legend>},
+    Rule{"style size large", Support::passedOver, readNothing<Legend>},
+    Rule{"behind", Support::passedOver, readNothing<Legend>},
+    Rule{"portrait", Support::passedOver, readNothing<Legend>},
+    Rule{"landscape", Support::passedOver, readNothing<Legend>},
+    Rule{"custom", Support::passedOver, readNothing<Legend>},
+};
 
 }  // namespace
 
 Statement parseCreateCartographicLegend(TokenStream& stream, Position position) {
   CreateCartographicLegend legend;
   legend.position = position;
-  while (acceptLegendClause(stream, legend)) {
+  while (acceptClause(stream, windowShapeRules(), legend.shape) ||
+         acceptClause<CreateCartographicLegend>(stream, kRules, legend)) {
   }
-  while (stream.isWord("frame")) {
-    const Position at = stream.position();
-    stream.next();
-    legend.frames.push_back(parseFrame(stream, at));
-  }
+  while (stream.acceptWord("frame")) legend.frames.push_back(parseFrame(stream));
   return legend;
+}
+
+ClauseEntries cartographicLegendClauses() {
+  ClauseEntries entries;
+  for (const ClauseRule<WindowShape>& rule : windowShapeRules())
+    entries.push_back({"", rule.words, Support::passedOver});
+  addEntries<CreateCartographicLegend>(entries, "", kRules);
+  addEntries<LegendFrame>(entries, "frame", kFrameRules);
+  return entries;
 }
 
 }  // namespace motor

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "motor/language/parsing/layer_parser.h"
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/style_parser.h"
@@ -6,161 +8,114 @@ namespace motor {
 
 namespace {
 
-struct SwitchWord {
-  const char* word;
-  std::optional<bool> LabelClause::*field;
-};
-constexpr SwitchWord kSwitches[] = {
-    {"parallel", &LabelClause::parallel},
-    {"overlap", &LabelClause::overlap},
-    {"partialsegments", &LabelClause::partialSegments},
-    {"duplicates", &LabelClause::duplicates},
-};
-
-bool acceptSwitch(TokenStream& stream, LabelClause& label) {
-  for (const SwitchWord& row : kSwitches) {
-    if (!stream.acceptWord(row.word)) continue;
-    label.*row.field = parseSwitch(stream);
-    return true;
-  }
-  return false;
+// None, Simple or Arrow
+LabelLine parseLabelLine(TokenStream& stream) {
+  if (stream.acceptWord("none")) return LabelLine::none;
+  if (stream.acceptWord("simple")) return LabelLine::simple;
+  if (stream.acceptWord("arrow")) return LabelLine::arrow;
+  stream.failExpecting("None, Simple o Arrow");
 }
 
-// Font and Pen, each of which may stand in a label or an edited label.
+bool isStyleNext(const TokenStream& stream) { return stream.isSign("(", 1); }
+bool isSwitchNext(const TokenStream& stream) { return stream.isAnyWord({"on", "off"}, 1); }
+bool isNoZoomNext(const TokenStream& stream) { return !stream.isWord("zoom", 1); }
+
+// What labels of layers and of single objects share.
 template <typename Clause>
-bool acceptStyle(TokenStream& stream, Clause& clause) {
-  if (stream.isWord("font")) {
-    clause.font = parseStyleClause(stream, StyleClause::Kind::font);
-  } else if (stream.isWord("pen")) {
-    clause.pen = parseStyleClause(stream, StyleClause::Kind::pen);
-  } else {
-    return false;
-  }
-  return true;
+void readLine(TokenStream& stream, Clause& clause) {
+  clause.line = parseLabelLine(stream);
+}
+template <typename Clause>
+void readPlacement(TokenStream& stream, Clause& clause) {
+  clause.placement = parseAnchor(stream);
+}
+template <auto kField, typename Clause>
+void readStyle(TokenStream& stream, Clause& clause) {
+  clause.*kField = parseStyleArguments(stream);
 }
 
-bool acceptCustomPlace(TokenStream& stream, CustomLabel& label) {
-  if (stream.acceptWord("line")) {
-    label.line = parseLabelLine(stream);
-  } else if (stream.acceptWord("anchor")) {
-    label.anchor = parseCoordinatePair(stream);
-  } else if (stream.acceptWord("callout")) {
-    label.callout = parseCoordinatePair(stream);
-  } else if (stream.acceptWord("position")) {
-    label.placement = parseAnchor(stream);
-  } else {
-    return false;
-  }
-  return true;
+using ObjectRule = ClauseRule<CustomLabel>;
+
+constexpr std::array kObjectRules = {
+    ObjectRule{"line", Support::done, readLine<CustomLabel>},
+    ObjectRule{"anchor", Support::done,
+               [](TokenStream& stream, CustomLabel& label) { label.anchor = parseCoordinatePair(stream); }},
+    ObjectRule{"callout", Support::done,
+               [](TokenStream& stream, CustomLabel& label) { label.callout = parseCoordinatePair(stream); }},
+    ObjectRule{"position", Support::done, readPlacement<CustomLabel>},
+    ObjectRule{"font", Support::done, readStyle<&CustomLabel::font>, isStyleNext},
+    ObjectRule{"pen", Support::done, readStyle<&CustomLabel::pen>, isStyleNext},
+    ObjectRule{
+        "table", Support::passedOver,
+        [](TokenStream& stream, CustomLabel& label) { label.table = parseName(stream, "el nombre de una tabla"); }},
+    ObjectRule{"visibility", Support::done, readSwitch<&CustomLabel::visible>, isSwitchNext},
+    ObjectRule{"text", Support::done, readExpression<&CustomLabel::text>},
+    ObjectRule{"angle", Support::done, readExpression<&CustomLabel::angle>},
+    ObjectRule{"offset", Support::done, readExpression<&CustomLabel::offset>},
+};
+
+void readObject(TokenStream& stream, LabelClause& label) {
+  CustomLabel object;
+  object.position = stream.before().position;
+  object.row = parseExpression(stream);
+  acceptClauses<CustomLabel>(stream, kObjectRules, object);
+  label.objects.push_back(std::move(object));
 }
 
-bool acceptCustomClause(TokenStream& stream, CustomLabel& label) {
-  if (acceptCustomPlace(stream, label) || acceptStyle(stream, label)) return true;
-  if (stream.acceptWord("table")) {
-    label.table = parseName(stream, "el nombre de una tabla");
-  } else if (stream.isWord("visibility") && stream.isAnyWord({"on", "off"}, 1)) {
-    stream.next();
-    label.visible = parseSwitch(stream);
-  } else if (stream.acceptWord("text")) {
-    label.text = parseExpression(stream);
-  } else if (stream.acceptWord("angle")) {
-    label.angle = parseExpression(stream);
-  } else if (stream.acceptWord("offset")) {
-    label.offset = parseExpression(stream);
-  } else {
-    return false;
-  }
-  return true;
+template <LabelClause::Visibility kVisibility>
+void readVisibility(TokenStream& stream, LabelClause& label) {
+  label.visibility = kVisibility;
+  if (kVisibility == LabelClause::Visibility::zoom) label.visibilityZoom = parseZoomRange(stream);
 }
 
-CustomLabel parseCustomLabel(TokenStream& stream, Position position) {
-  CustomLabel label;
-  label.position = position;
-  label.row = parseExpression(stream);
-  while (acceptCustomClause(stream, label)) {
-  }
-  return label;
+[[noreturn]] void failVisibility(TokenStream& stream, LabelClause& /*label*/) {
+  stream.failExpecting("On, Off o Zoom");
 }
 
-void parseVisibility(TokenStream& stream, LabelClause& label) {
-  if (stream.acceptWord("zoom")) {
-    label.visibility = LabelClause::Visibility::zoom;
-    label.visibilityZoom = parseZoomRange(stream);
-  } else if (stream.isAnyWord({"on", "off"})) {
-    label.visibility = parseSwitch(stream) ? LabelClause::Visibility::on : LabelClause::Visibility::off;
-  } else {
-    stream.failExpecting("On, Off o Zoom");
-  }
+// Max [n]: without a number there is no limit.
+void ignoreMaximum(TokenStream& stream, LabelClause& /*label*/) {
+  if (stream.peek().kind == Token::Kind::number || stream.isSign("(")) static_cast<void>(parseOperand(stream));
 }
 
-void parseAutomatic(TokenStream& stream, LabelClause& label) {
-  if (stream.acceptWord("retry")) {
-    label.retry = parseSwitch(stream);
-  } else {
-    label.automatic = parseSwitch(stream);
-  }
-}
+using Rule = ClauseRule<LabelClause>;
+using Visibility = LabelClause::Visibility;
 
-void parseMaximum(TokenStream& stream, LabelClause& label) {
-  if (stream.peek().kind == Token::Kind::number || stream.isSign("(")) {
-    label.maximum = parseOperand(stream);
-  } else {
-    label.unlimited = true;
-  }
-}
-
-bool acceptPlace(TokenStream& stream, LabelClause& label) {
-  if (stream.acceptWord("line")) {
-    label.line = parseLabelLine(stream);
-  } else if (stream.acceptWord("position")) {
-    label.placement = parseAnchor(stream);
-  } else if (stream.acceptWord("offset")) {
-    label.offset = parseExpression(stream);
-  } else if (stream.acceptWord("max")) {
-    parseMaximum(stream, label);
-  } else if (stream.acceptWords("follow", "path")) {
-    label.followPath = parseSwitch(stream);
-  } else {
-    return false;
-  }
-  return true;
-}
-
-bool acceptLabelClause(TokenStream& stream, LabelClause& label) {
-  const Position position = stream.position();
-  if (acceptPlace(stream, label) || acceptSwitch(stream, label) || acceptStyle(stream, label)) return true;
-  if (stream.acceptWord("with")) {
-    label.with = parseWrittenExpression(stream);
-  } else if (stream.acceptWord("visibility")) {
-    parseVisibility(stream, label);
-  } else if (stream.acceptWord("auto")) {
-    parseAutomatic(stream, label);
-  } else if (stream.acceptWord("object")) {
-    label.objects.push_back(parseCustomLabel(stream, position));
-  } else if (stream.isWord("default") && !stream.isWord("zoom", 1)) {
-    stream.next();
-    label.toDefault = true;
-  } else {
-    return false;
-  }
-  return true;
-}
+constexpr std::array kRules = {
+    Rule{"default", Support::done, setTo<&LabelClause::toDefault, true>, isNoZoomNext},
+    Rule{"line", Support::done, readLine<LabelClause>},
+    Rule{"position", Support::done, readPlacement<LabelClause>},
+    Rule{"offset", Support::done, readExpression<&LabelClause::offset>},
+    Rule{"font", Support::done, readStyle<&LabelClause::font>, isStyleNext},
+    Rule{"pen", Support::done, readStyle<&LabelClause::pen>, isStyleNext},
+    Rule{"with", Support::done,
+         [](TokenStream& stream, LabelClause& label) { label.with = parseWrittenExpression(stream); }},
+    Rule{"visibility on", Support::done, readVisibility<Visibility::on>},
+    Rule{"visibility off", Support::done, readVisibility<Visibility::off>},
+    Rule{"visibility zoom", Support::done, readVisibility<Visibility::zoom>},
+    Rule{"visibility", Support::incomplete, failVisibility},
+    Rule{"auto retry", Support::passedOver, ignoreSwitch<LabelClause>},
+    Rule{"auto", Support::done, readSwitch<&LabelClause::automatic>},
+    Rule{"overlap", Support::done, readSwitch<&LabelClause::overlap>},
+    Rule{"duplicates", Support::done, readSwitch<&LabelClause::duplicates>},
+    Rule{"parallel", Support::done, readSwitch<&LabelClause::parallel>},
+    Rule{"follow path", Support::passedOver, ignoreSwitch<LabelClause>},
+    Rule{"partialsegments", Support::passedOver, ignoreSwitch<LabelClause>},
+    Rule{"max", Support::passedOver, ignoreMaximum},
+    Rule{"object", Support::done, readObject},
+};
 
 }  // namespace
 
 LabelClause parseLabelClause(TokenStream& stream, Position position) {
   LabelClause label;
   label.position = position;
-  while (acceptLabelClause(stream, label)) {
-  }
+  acceptClauses<LabelClause>(stream, kRules, label);
   return label;
 }
 
-LabelLine parseLabelLine(TokenStream& stream) {
-  if (stream.acceptWord("none")) return LabelLine::none;
-  if (stream.acceptWord("simple")) return LabelLine::simple;
-  if (stream.acceptWord("arrow")) return LabelLine::arrow;
-  stream.failExpecting("None, Simple o Arrow");
+void addLabelEntries(ClauseEntries& entries, const std::string& within) {
+  addEntries<LabelClause>(entries, within, kRules);
+  addEntries<CustomLabel>(entries, within + " object", kObjectRules);
 }
 
 }  // namespace motor

@@ -1,5 +1,7 @@
 #include "motor/language/parsing/layer_parser.h"
 
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/style_parser.h"
 
@@ -19,55 +21,36 @@ void addStyles(StyleList& list, TokenStream& stream) {
   while (auto clause = acceptStyleClause(stream)) addStyle(list, std::move(*clause));
 }
 
-struct SwitchWord {
-  const char* word;
-  std::optional<bool> LayerChange::*field;
+void readLabel(TokenStream& stream, LayerChange& layer) {
+  const Position position = stream.before().position;
+  layer.label = parseLabelClause(stream, position);
+}
+
+bool isRangeNext(const TokenStream& stream) { return stream.isSign("(", 1); }
+
+using Rule = ClauseRule<LayerChange>;
+
+constexpr std::array kRules = {
+    Rule{"display", Support::done,
+         [](TokenStream& stream, LayerChange& layer) { layer.display = parseDisplay(stream); }},
+    Rule{"global", Support::done, [](TokenStream& stream, LayerChange& layer) { addStyles(layer.global, stream); }},
+    Rule{"zoom", Support::done, [](TokenStream& stream, LayerChange& layer) { layer.zoom = parseZoomRange(stream); },
+         isRangeNext},
+    Rule{"selectable", Support::done, readSwitch<&LayerChange::selectable>},
+    Rule{"editable", Support::done, readSwitch<&LayerChange::editable>},
+    Rule{"arrows", Support::done, readSwitch<&LayerChange::arrows>},
+    Rule{"nodes", Support::done, readSwitch<&LayerChange::nodes>},
+    Rule{"centroids", Support::done, readSwitch<&LayerChange::centroids>},
+    Rule{"label", Support::done, readLabel},
+    Rule{"default zoom", Support::passedOver, readNothing<LayerChange>},
+    // How the colours of a picture are changed.
+    Rule{"contrast", Support::passedOver, ignoreExpression<LayerChange>},
+    Rule{"brightness", Support::passedOver, ignoreExpression<LayerChange>},
+    Rule{"alpha", Support::passedOver, ignoreExpression<LayerChange>},
+    Rule{"color", Support::passedOver, ignoreExpression<LayerChange>},
+    Rule{"transparency", Support::passedOver, ignoreSwitch<LayerChange>},
+    Rule{"grayscale", Support::passedOver, ignoreSwitch<LayerChange>},
 };
-constexpr SwitchWord kSwitches[] = {
-    {"selectable", &LayerChange::selectable}, {"editable", &LayerChange::editable},   {"arrows", &LayerChange::arrows},
-    {"nodes", &LayerChange::nodes},           {"centroids", &LayerChange::centroids},
-};
-
-bool acceptSwitch(TokenStream& stream, LayerChange& layer) {
-  for (const SwitchWord& row : kSwitches) {
-    if (!stream.acceptWord(row.word)) continue;
-    layer.*row.field = parseSwitch(stream);
-    return true;
-  }
-  return false;
-}
-
-// How the colours of a picture are changed: read and not kept.
-bool acceptPictureClause(TokenStream& stream) {
-  if (stream.isAnyWord({"contrast", "brightness", "alpha", "color"})) {
-    stream.next();
-    static_cast<void>(parseExpression(stream));
-    return true;
-  }
-  if (!stream.isAnyWord({"transparency", "grayscale"})) return false;
-  stream.next();
-  static_cast<void>(parseSwitch(stream));
-  return true;
-}
-
-bool acceptLayerClause(TokenStream& stream, LayerChange& layer) {
-  const Position position = stream.position();
-  if (stream.acceptWord("display")) {
-    layer.display = parseDisplay(stream);
-  } else if (stream.acceptWord("global")) {
-    addStyles(layer.global, stream);
-  } else if (stream.isWord("zoom") && stream.isSign("(", 1)) {
-    stream.next();
-    layer.zoom = parseZoomRange(stream);
-  } else if (stream.acceptWord("label")) {
-    layer.label = parseLabelClause(stream, position);
-  } else if (stream.acceptWords("default", "zoom")) {
-    layer.defaultZoom = true;
-  } else {
-    return acceptSwitch(stream, layer) || acceptPictureClause(stream);
-  }
-  return true;
-}
 
 }  // namespace
 
@@ -75,9 +58,13 @@ LayerChange parseLayerChange(TokenStream& stream, Position position) {
   LayerChange layer;
   layer.position = position;
   layer.layer = parseLayerReference(stream);
-  while (acceptLayerClause(stream, layer)) {
-  }
+  acceptClauses<LayerChange>(stream, kRules, layer);
   return layer;
+}
+
+void addLayerEntries(ClauseEntries& entries, const std::string& within) {
+  addEntries<LayerChange>(entries, within, kRules);
+  addLabelEntries(entries, within + " label");
 }
 
 ZoomRange parseZoomRange(TokenStream& stream) {

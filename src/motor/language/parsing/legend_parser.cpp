@@ -1,3 +1,5 @@
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
 #include "motor/language/parsing/style_parser.h"
@@ -32,55 +34,33 @@ void parseRows(TokenStream& stream, LegendLayer& layer) {
   } while (stream.acceptSign(","));
 }
 
-struct SwitchWord {
-  const char* word;
-  std::optional<bool> LegendLayer::*field;
+// Small | Large
+void ignoreSize(TokenStream& stream, LegendLayer& /*layer*/) {
+  if (!stream.acceptWord("small") && !stream.acceptWord("large")) stream.failExpecting("Small o Large");
+}
+
+using Rule = ClauseRule<LegendLayer>;
+
+constexpr std::array kRules = {
+    Rule{"display", Support::done, readSwitch<&LegendLayer::shown>},
+    Rule{"shades", Support::done, readSwitch<&LegendLayer::shades>},
+    Rule{"symbols", Support::done, readSwitch<&LegendLayer::symbols>},
+    Rule{"lines", Support::done, readSwitch<&LegendLayer::lines>},
+    Rule{"count", Support::done, readSwitch<&LegendLayer::count>},
+    Rule{"ascending", Support::done, readSwitch<&LegendLayer::ascending>},
+    Rule{"title", Support::done, [](TokenStream& stream, LegendLayer& layer) { layer.title = parseText(stream); }},
+    Rule{"subtitle", Support::done,
+         [](TokenStream& stream, LegendLayer& layer) { layer.subtitle = parseText(stream); }},
+    Rule{"ranges", Support::done, parseRows},
+    Rule{"style size", Support::passedOver, ignoreSize},
+    Rule{"columns", Support::passedOver, ignoreExpression<LegendLayer>},
 };
-constexpr SwitchWord kSwitches[] = {
-    {"display", &LegendLayer::shown}, {"shades", &LegendLayer::shades}, {"symbols", &LegendLayer::symbols},
-    {"lines", &LegendLayer::lines},   {"count", &LegendLayer::count},   {"ascending", &LegendLayer::ascending},
-};
-
-bool acceptSwitch(TokenStream& stream, LegendLayer& layer) {
-  for (const SwitchWord& row : kSwitches) {
-    if (!stream.acceptWord(row.word)) continue;
-    layer.*row.field = parseSwitch(stream);
-    return true;
-  }
-  return false;
-}
-
-// Style Size Small | Large and Columns n: read and not kept.
-bool acceptLayout(TokenStream& stream) {
-  if (stream.acceptWords("style", "size")) {
-    if (!stream.acceptWord("small") && !stream.acceptWord("large")) stream.failExpecting("Small o Large");
-    return true;
-  }
-  if (!stream.acceptWord("columns")) return false;
-  static_cast<void>(parseExpression(stream));
-  return true;
-}
-
-bool acceptLegendClause(TokenStream& stream, LegendLayer& layer) {
-  if (acceptSwitch(stream, layer) || acceptLayout(stream)) return true;
-  if (stream.acceptWord("title")) {
-    layer.title = parseText(stream);
-  } else if (stream.acceptWord("subtitle")) {
-    layer.subtitle = parseText(stream);
-  } else if (stream.acceptWord("ranges")) {
-    parseRows(stream, layer);
-  } else {
-    return false;
-  }
-  return true;
-}
 
 LegendLayer parseLegendLayer(TokenStream& stream, Position position) {
   LegendLayer layer;
   layer.position = position;
   if (!stream.acceptWord("prev")) layer.layer = parseLayerReference(stream);
-  while (acceptLegendClause(stream, layer)) {
-  }
+  acceptClauses<LegendLayer>(stream, kRules, layer);
   return layer;
 }
 
@@ -96,6 +76,12 @@ Statement parseSetLegend(TokenStream& stream, Position position) {
     legend.layers.push_back(parseLegendLayer(stream, at));
   } while (stream.acceptSign(",") || stream.isWord("layer"));
   return legend;
+}
+
+ClauseEntries setLegendClauses() {
+  ClauseEntries entries;
+  addEntries<LegendLayer>(entries, "layer", kRules);
+  return entries;
 }
 
 Statement parseCreateLegend(TokenStream& stream, Position position) {

@@ -1,5 +1,6 @@
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
+#include "motor/language/parsing/window_shape_parser.h"
 
 // Map From, Add Map, Remove Map.
 namespace motor {
@@ -8,9 +9,14 @@ Statement parseMapFrom(TokenStream& stream, Position position) {
   MapFrom map;
   map.position = position;
   map.tables = parseNames(stream, "el nombre de una tabla");
-  while (acceptWindowShape(stream, map.shape)) {
-  }
+  acceptClauses(stream, windowShapeRules(), map.shape);
   return map;
+}
+
+ClauseEntries mapFromClauses() {
+  ClauseEntries entries;
+  addEntries(entries, "", windowShapeRules());
+  return entries;
 }
 
 Statement parseAddMap(TokenStream& stream, Position position) {

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
 
@@ -18,27 +20,26 @@ Calling parseCalling(TokenStream& stream) {
   return calling;
 }
 
-bool acceptMenuClause(TokenStream& stream, MenuItem& item) {
-  if (stream.acceptWord("id")) {
-    item.id = parseExpression(stream);
-  } else if (stream.acceptWord("helpmsg")) {
-    static_cast<void>(parseExpression(stream));
-  } else if (stream.acceptWord("calling")) {
-    item.calling = parseCalling(stream);
-  } else if (stream.acceptWord("as")) {
-    item.submenu = stream.expectText("el nombre de un menú entre comillas");
-  } else {
-    return false;
-  }
-  return true;
+template <typename Part>
+void readCalling(TokenStream& stream, Part& part) {
+  part.calling = parseCalling(stream);
 }
+
+constexpr std::array kMenuRules = {
+    ClauseRule<MenuItem>{"id", Support::done, readExpression<&MenuItem::id>},
+    ClauseRule<MenuItem>{"helpmsg", Support::passedOver, ignoreExpression<MenuItem>},
+    ClauseRule<MenuItem>{"calling", Support::done, readCalling<MenuItem>},
+    ClauseRule<MenuItem>{"as", Support::done,
+                         [](TokenStream& stream, MenuItem& item) {
+                           item.submenu = stream.expectText("el nombre de un menú entre comillas");
+                         }},
+};
 
 MenuItem parseMenuItem(TokenStream& stream) {
   MenuItem item;
   item.position = stream.position();
   item.text = parseExpression(stream);
-  while (acceptMenuClause(stream, item)) {
-  }
+  acceptClauses<MenuItem>(stream, kMenuRules, item);
   return item;
 }
 
@@ -53,55 +54,33 @@ constexpr ButtonWord kButtonWords[] = {
     {"separator", PadButton::Kind::separator},
 };
 
-struct NumberWord {
-  const char* word;
-  ExpressionPtr PadButton::*field;
-};
-constexpr NumberWord kNumberWords[] = {
-    {"id", &PadButton::id},
-    {"drawmode", &PadButton::drawMode},
-    {"helpmsg", &PadButton::help},
-};
-
-// Icon n [File f] and Cursor n [File f]: files of pictures are not read.
-bool acceptPicture(TokenStream& stream, PadButton& button) {
-  const bool isIcon = stream.isWord("icon");
-  if (!isIcon && !stream.isWord("cursor")) return false;
-  stream.next();
-  (isIcon ? button.icon : button.cursor) = parseExpression(stream);
+// n [File f]: files of pictures are not read.
+template <auto kField>
+void readPicture(TokenStream& stream, PadButton& button) {
+  button.*kField = parseExpression(stream);
   if (stream.acceptWord("file")) static_cast<void>(parseExpression(stream));
-  return true;
 }
 
-bool acceptButtonSwitch(TokenStream& stream, PadButton& button) {
-  if (stream.acceptWord("enable")) {
-    button.enabled = true;
-  } else if (stream.acceptWord("disable")) {
-    button.enabled = false;
-  } else if (stream.acceptWord("check")) {
-    button.checked = true;
-  } else if (stream.acceptWord("uncheck")) {
-    button.checked = false;
-  } else if (stream.acceptWord("modifierkeys")) {
-    static_cast<void>(parseSwitch(stream));
-  } else {
-    return false;
-  }
-  return true;
+template <auto kField, bool kValue>
+void setSwitch(TokenStream& /*stream*/, PadButton& button) {
+  button.*kField = kValue;
 }
 
-bool acceptButtonClause(TokenStream& stream, PadButton& button) {
-  if (stream.acceptWord("calling")) {
-    button.calling = parseCalling(stream);
-    return true;
-  }
-  for (const NumberWord& row : kNumberWords) {
-    if (!stream.acceptWord(row.word)) continue;
-    button.*row.field = parseExpression(stream);
-    return true;
-  }
-  return acceptPicture(stream, button) || acceptButtonSwitch(stream, button);
-}
+using ButtonRule = ClauseRule<PadButton>;
+
+constexpr std::array kButtonRules = {
+    ButtonRule{"calling", Support::done, readCalling<PadButton>},
+    ButtonRule{"id", Support::done, readExpression<&PadButton::id>},
+    ButtonRule{"drawmode", Support::done, readExpression<&PadButton::drawMode>},
+    ButtonRule{"helpmsg", Support::done, readExpression<&PadButton::help>},
+    ButtonRule{"icon", Support::done, readPicture<&PadButton::icon>},
+    ButtonRule{"cursor", Support::done, readPicture<&PadButton::cursor>},
+    ButtonRule{"enable", Support::done, setSwitch<&PadButton::enabled, true>},
+    ButtonRule{"disable", Support::done, setSwitch<&PadButton::enabled, false>},
+    ButtonRule{"check", Support::done, setSwitch<&PadButton::checked, true>},
+    ButtonRule{"uncheck", Support::done, setSwitch<&PadButton::checked, false>},
+    ButtonRule{"modifierkeys", Support::passedOver, ignoreSwitch<PadButton>},
+};
 
 std::optional<PadButton> acceptButton(TokenStream& stream) {
   for (const ButtonWord& row : kButtonWords) {
@@ -110,8 +89,7 @@ std::optional<PadButton> acceptButton(TokenStream& stream) {
     PadButton button;
     button.position = position;
     button.kind = row.kind;
-    while (acceptButtonClause(stream, button)) {
-    }
+    acceptClauses<PadButton>(stream, kButtonRules, button);
     return button;
   }
   return std::nullopt;
@@ -124,45 +102,44 @@ std::vector<PadButton> parseButtons(TokenStream& stream) {
   return buttons;
 }
 
-// Where a pad stands: read and not kept.
-bool acceptPadPlace(TokenStream& stream) {
-  if (stream.acceptWord("position") || stream.acceptWord("toolbarposition")) {
-    static_cast<void>(parsePlacement(stream));
-  } else if (stream.acceptWord("width") || stream.acceptWord("title")) {
-    static_cast<void>(parseExpression(stream));
-  } else {
-    return stream.acceptWord("fixed") || stream.acceptWord("float");
-  }
-  return true;
+template <typename Pad>
+void ignorePlacement(TokenStream& stream, Pad& /*pad*/) {
+  static_cast<void>(parsePlacement(stream));
 }
 
-// Show and Hide, of both statements.
-bool acceptShown(TokenStream& stream, std::optional<bool>& shown) {
-  if (stream.acceptWord("show")) {
-    shown = true;
-  } else if (stream.acceptWord("hide")) {
-    shown = false;
-  } else {
-    return false;
-  }
-  return true;
+// Where a pad stands, and whether it is seen, of both statements.
+template <typename Pad>
+constexpr std::array kPadRules = {
+    ClauseRule<Pad>{"show", Support::done, setTo<&Pad::shown, true>},
+    ClauseRule<Pad>{"hide", Support::done, setTo<&Pad::shown, false>},
+    ClauseRule<Pad>{"position", Support::passedOver, ignorePlacement<Pad>},
+    ClauseRule<Pad>{"toolbarposition", Support::passedOver, ignorePlacement<Pad>},
+    ClauseRule<Pad>{"width", Support::passedOver, ignoreExpression<Pad>},
+    ClauseRule<Pad>{"title", Support::passedOver, ignoreExpression<Pad>},
+    ClauseRule<Pad>{"fixed", Support::passedOver, readNothing<Pad>},
+    ClauseRule<Pad>{"float", Support::passedOver, readNothing<Pad>},
+};
+
+void readAdded(TokenStream& stream, AlterButtonPad& alter) {
+  for (PadButton& button : parseButtons(stream)) alter.added.push_back(std::move(button));
 }
+
+void readRemoved(TokenStream& stream, AlterButtonPad& alter) {
+  do {
+    stream.acceptWord("id");
+    alter.removed.push_back(parseExpression(stream));
+  } while (stream.acceptSign(","));
+}
+
+constexpr std::array kAlterRules = {
+    ClauseRule<AlterButtonPad>{"add", Support::done, readAdded},
+    ClauseRule<AlterButtonPad>{"remove", Support::done, readRemoved},
+    ClauseRule<AlterButtonPad>{"destroy", Support::done, setTo<&AlterButtonPad::destroyed, true>},
+};
 
 bool acceptPadChange(TokenStream& stream, AlterButtonPad& alter) {
-  if (acceptPadPlace(stream) || acceptShown(stream, alter.shown)) return true;
-  if (stream.acceptWord("add")) {
-    for (PadButton& button : parseButtons(stream)) alter.added.push_back(std::move(button));
-  } else if (stream.acceptWord("remove")) {
-    do {
-      stream.acceptWord("id");
-      alter.removed.push_back(parseExpression(stream));
-    } while (stream.acceptSign(","));
-  } else if (stream.acceptWord("destroy")) {
-    alter.destroyed = true;
-  } else {
-    return false;
-  }
-  return true;
+  return acceptClause<AlterButtonPad>(stream, kAlterRules, alter) ||
+         acceptClause<AlterButtonPad>(stream, kPadRules<AlterButtonPad>, alter);
 }
 
 }  // namespace
@@ -186,8 +163,7 @@ Statement parseCreateButtonPad(TokenStream& stream, Position position) {
   if (stream.acceptWord("id")) static_cast<void>(parseExpression(stream));
   stream.expectWord("as", "As");
   pad.buttons = parseButtons(stream);
-  while (acceptPadPlace(stream) || acceptShown(stream, pad.shown)) {
-  }
+  acceptClauses<CreateButtonPad>(stream, kPadRules<CreateButtonPad>, pad);
   return pad;
 }
 
@@ -203,6 +179,27 @@ Statement parseAlterButtonPad(TokenStream& stream, Position position) {
   while (acceptPadChange(stream, alter)) {
   }
   return alter;
+}
+
+ClauseEntries createMenuClauses() {
+  ClauseEntries entries;
+  addEntries<MenuItem>(entries, "entry", kMenuRules);
+  return entries;
+}
+
+ClauseEntries createButtonPadClauses() {
+  ClauseEntries entries;
+  for (const ButtonWord& row : kButtonWords) entries.push_back({"button", row.word, Support::done});
+  addEntries<PadButton>(entries, "button", kButtonRules);
+  addEntries<CreateButtonPad>(entries, "", kPadRules<CreateButtonPad>);
+  return entries;
+}
+
+ClauseEntries alterButtonPadClauses() {
+  ClauseEntries entries;
+  addEntries<AlterButtonPad>(entries, "", kAlterRules);
+  addEntries<AlterButtonPad>(entries, "", kPadRules<AlterButtonPad>);
+  return entries;
 }
 
 }  // namespace motor

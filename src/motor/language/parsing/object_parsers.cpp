@@ -1,3 +1,4 @@
+#include <array>
 #include <cmath>
 
 #include "motor/language/expressions/literal.h"
@@ -51,31 +52,33 @@ Statement parseTwoPoints(TokenStream& stream, Position position, CreateObject::K
   return object;
 }
 
-// The engine's smoothing and centroid of an object: read and not kept.
-void readShapeClauses(TokenStream& stream) {
-  stream.acceptWord("smooth");
-  if (stream.acceptWord("center")) static_cast<void>(parseCoordinatePair(stream));
-}
+void ignorePoint(TokenStream& stream, CreateObject& /*object*/) { static_cast<void>(parseCoordinatePair(stream)); }
 
-bool acceptTextClause(TokenStream& stream, CreateObject& object) {
-  if (auto clause = acceptStyleClause(stream)) {
-    addStyle(object.style, std::move(*clause));
-  } else if (stream.acceptWord("angle")) {
-    object.angle = parseExpression(stream);
-  } else if (stream.acceptWord("spacing")) {
-    static_cast<void>(parseExpression(stream));
-  } else if (stream.acceptWord("justify")) {
-    if (!stream.acceptWord("left") && !stream.acceptWord("right") && !stream.acceptWord("center")) {
-      stream.failExpecting("Left, Center o Right");
-    }
-  } else if (stream.acceptWords("label", "line")) {
-    if (!stream.acceptWord("simple") && !stream.acceptWord("arrow")) stream.failExpecting("Simple o Arrow");
-    static_cast<void>(parseCoordinatePair(stream));
-  } else {
-    return false;
-  }
-  return true;
-}
+using Rule = ClauseRule<CreateObject>;
+
+// The engine's smoothing and centroid of an object.
+constexpr std::array kShapeRules = {
+    Rule{"smooth", Support::passedOver, readNothing<CreateObject>},
+    Rule{"center", Support::passedOver, ignorePoint},
+};
+
+bool isStyleNext(const TokenStream& stream) { return stream.isSign("(", 1); }
+
+constexpr std::array kTextRules = {
+    Rule{"font", Support::done,
+         [](TokenStream& stream, CreateObject& object) { addStyle(object.style, parseStyleArguments(stream)); },
+         isStyleNext},
+    Rule{"pen", Support::passedOver,
+         [](TokenStream& stream, CreateObject& object) { addStyle(object.style, parseStyleArguments(stream)); },
+         isStyleNext},
+    Rule{"angle", Support::done, readExpression<&CreateObject::angle>},
+    Rule{"spacing", Support::passedOver, ignoreExpression<CreateObject>},
+    Rule{"justify left", Support::done, readNothing<CreateObject>},
+    Rule{"justify center", Support::passedOver, readNothing<CreateObject>},
+    Rule{"justify right", Support::passedOver, readNothing<CreateObject>},
+    Rule{"label line simple", Support::passedOver, ignorePoint},
+    Rule{"label line arrow", Support::passedOver, ignorePoint},
+};
 
 }  // namespace
 
@@ -101,7 +104,7 @@ Statement parseCreatePolyline(TokenStream& stream, Position position) {
     object.parts.push_back(parseAllPoints(stream));
   }
   object.style = parseStyleList(stream);
-  readShapeClauses(stream);
+  acceptClauses<CreateObject>(stream, kShapeRules, object);
   return object;
 }
 
@@ -110,7 +113,7 @@ Statement parseCreateRegion(TokenStream& stream, Position position) {
   const std::size_t parts = parseCount(stream);
   for (std::size_t i = 0; i < parts; ++i) object.parts.push_back(parsePoints(stream, parseCount(stream)));
   object.style = parseStyleList(stream);
-  readShapeClauses(stream);
+  acceptClauses<CreateObject>(stream, kShapeRules, object);
   return object;
 }
 
@@ -134,9 +137,20 @@ Statement parseCreateText(TokenStream& stream, Position position) {
   CreateObject object = begin(stream, position, CreateObject::Kind::text);
   object.text = parseExpression(stream);
   object.parts.push_back(parsePoints(stream, 2));
-  while (acceptTextClause(stream, object)) {
-  }
+  acceptClauses<CreateObject>(stream, kTextRules, object);
   return object;
+}
+
+ClauseEntries shapeClauses() {
+  ClauseEntries entries;
+  addEntries<CreateObject>(entries, "", kShapeRules);
+  return entries;
+}
+
+ClauseEntries textClauses() {
+  ClauseEntries entries;
+  addEntries<CreateObject>(entries, "", kTextRules);
+  return entries;
 }
 
 }  // namespace motor

@@ -172,25 +172,6 @@ CoordSysClause parseCoordSysClause(TokenStream& stream) {
   return clause;
 }
 
-bool acceptWindowShape(TokenStream& stream, WindowShape& shape) {
-  if (stream.acceptWord("position")) {
-    shape.position = parsePlacement(stream);
-  } else if (stream.acceptWord("width")) {
-    shape.width = parseMeasure(stream);
-  } else if (stream.acceptWord("height")) {
-    shape.height = parseMeasure(stream);
-  } else if (stream.acceptWord("min")) {
-    shape.state = WindowState::minimized;
-  } else if (stream.acceptWord("max")) {
-    shape.state = WindowState::maximized;
-  } else if (stream.acceptWord("restore")) {
-    shape.state = WindowState::restored;
-  } else {
-    return false;
-  }
-  return true;
-}
-
 int parseAnchor(TokenStream& stream) {
   constexpr int kAbove = 2;
   constexpr int kLeft = 4;

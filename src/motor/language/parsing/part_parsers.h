@@ -37,9 +37,6 @@ namespace motor {
 // What follows the word CoordSys.
 [[nodiscard]] CoordSysClause parseCoordSysClause(TokenStream& stream);
 
-// Reads one of Position, Width, Height, Min, Max and Restore, if one comes next.
-bool acceptWindowShape(TokenStream& stream, WindowShape& shape);
-
 // What follows the word Position of a label or chart: Center, Above [Left | Right], Below [Left | Right], Left, Right;
 // coded as LabelClause::placement.
 [[nodiscard]] int parseAnchor(TokenStream& stream);

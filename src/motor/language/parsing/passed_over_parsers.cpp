@@ -6,6 +6,7 @@
 
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/style_parser.h"
+#include "motor/language/parsing/window_shape_parser.h"
 
 namespace motor {
 
@@ -79,7 +80,7 @@ void expectClauses(TokenStream& stream, Clauses clauses, const char* expected) {
 
 void readWindowShape(TokenStream& stream, Clauses clauses) {
   WindowShape shape;
-  while (acceptWindowShape(stream, shape) || acceptClause(stream, clauses)) {
+  while (acceptClause(stream, windowShapeRules(), shape) || acceptClause(stream, clauses)) {
   }
 }
 

@@ -1,8 +1,10 @@
 #include "motor/language/parsing/select_parser.h"
 
+#include <array>
+
 #include "motor/language/expressions/literal.h"
 #include "motor/language/expressions/name_reference.h"
-#include "motor/language/parsing/part_parsers.h"
+#include "motor/language/parsing/statement_parsers.h"
 
 namespace motor {
 
@@ -42,22 +44,22 @@ std::vector<SelectKey> parseKeys(TokenStream& stream) {
   return keys;
 }
 
-bool acceptClause(TokenStream& stream, SelectStatement& select) {
-  if (stream.acceptWord("where")) {
-    select.where = parseExpression(stream);
-  } else if (stream.acceptWord("group")) {
-    select.groupBy = parseKeys(stream);
-  } else if (stream.acceptWord("order")) {
-    select.orderBy = parseKeys(stream);
-  } else if (stream.acceptWord("into")) {
-    select.into = parseName(stream, kTable);
-  } else if (stream.acceptWord("noselect")) {
-    select.noSelect = true;
-  } else {
-    return stream.acceptWord("hide");
-  }
-  return true;
+template <auto kField>
+void readKeys(TokenStream& stream, SelectStatement& select) {
+  select.*kField = parseKeys(stream);
 }
+
+using Rule = ClauseRule<SelectStatement>;
+
+constexpr std::array kRules = {
+    Rule{"where", Support::done, readExpression<&SelectStatement::where>},
+    Rule{"group", Support::done, readKeys<&SelectStatement::groupBy>},
+    Rule{"order", Support::done, readKeys<&SelectStatement::orderBy>},
+    Rule{"into", Support::done,
+         [](TokenStream& stream, SelectStatement& select) { select.into = parseName(stream, kTable); }},
+    Rule{"noselect", Support::done, setTo<&SelectStatement::noSelect, true>},
+    Rule{"hide", Support::passedOver, readNothing<SelectStatement>},
+};
 
 }  // namespace
 
@@ -73,9 +75,14 @@ SelectStatement parseSelect(TokenStream& stream, Position position) {
   }
   stream.expectWord("from", "From");
   select.tables = parseNames(stream, kTable);
-  while (acceptClause(stream, select)) {
-  }
+  acceptClauses<SelectStatement>(stream, kRules, select);
   return select;
+}
+
+ClauseEntries selectClauses() {
+  ClauseEntries entries;
+  addEntries<SelectStatement>(entries, "", kRules);
+  return entries;
 }
 
 }  // namespace motor

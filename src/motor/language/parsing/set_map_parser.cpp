@@ -1,3 +1,5 @@
+#include <array>
+
 #include "motor/language/parsing/layer_parser.h"
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
@@ -24,10 +26,9 @@ ZoomClause parseScale(TokenStream& stream) {
   return scale;
 }
 
-SetMap::Preserve parsePreserve(TokenStream& stream) {
-  if (stream.acceptWord("zoom")) return SetMap::Preserve::zoom;
-  if (stream.acceptWord("scale")) return SetMap::Preserve::scale;
-  stream.failExpecting("Zoom o Scale");
+template <SetMap::Preserve kPreserved>
+void setPreserved(TokenStream& /*stream*/, SetMap& map) {
+  map.preserve = kPreserved;
 }
 
 SetMap::Status parseStatus(TokenStream& stream) {
@@ -37,76 +38,52 @@ SetMap::Status parseStatus(TokenStream& stream) {
   stream.failExpecting("Scale, Zoom o Position");
 }
 
-std::string parseUnit(TokenStream& stream) {
-  stream.expectWord("units", "Units");
-  return stream.expectText("una unidad entre comillas");
-}
+std::string parseUnit(TokenStream& stream) { return stream.expectText("una unidad entre comillas"); }
 
-// Distance Units u, or Distance Type Cartesian | Spherical, which is not kept: lengths follow the coordinate system.
-void parseDistance(TokenStream& stream, SetMap& map) {
-  if (!stream.acceptWord("type")) {
-    map.distanceUnit = parseUnit(stream);
-  } else if (!stream.acceptWord("cartesian") && !stream.acceptWord("spherical")) {
+// Lengths follow the coordinate system, whatever is said here.
+void ignoreDistanceType(TokenStream& stream, SetMap& /*map*/) {
+  if (!stream.acceptWord("cartesian") && !stream.acceptWord("spherical")) {
     stream.failExpecting("Cartesian o Spherical");
   }
 }
 
-ClippingClause parseClipping(TokenStream& stream) {
-  ClippingClause clipping{stream.position(), nullptr};
-  if (stream.acceptWord("off")) return clipping;
+// Off | Object o
+void ignoreClipping(TokenStream& stream, SetMap& /*map*/) {
+  if (stream.acceptWord("off")) return;
   stream.expectWord("object", "Off u Object");
-  clipping.object = parseExpression(stream);
-  return clipping;
+  static_cast<void>(parseExpression(stream));
 }
 
-bool acceptUnits(TokenStream& stream, SetMap& map) {
-  if (stream.acceptWord("distance")) {
-    parseDistance(stream, map);
-  } else if (stream.acceptWord("area")) {
-    map.areaUnit = parseUnit(stream);
-  } else if (stream.acceptWord("xy")) {
-    map.xyUnit = parseUnit(stream);
-  } else {
-    return false;
-  }
-  return true;
+template <auto kField>
+void readUnit(TokenStream& stream, SetMap& map) {
+  map.*kField = parseUnit(stream);
 }
 
-bool acceptView(TokenStream& stream, SetMap& map) {
-  if (stream.acceptWord("coordsys")) {
-    map.coordSys = parseCoordSysClause(stream);
-  } else if (stream.acceptWord("center")) {
-    map.center = parseCoordinatePair(stream);
-  } else if (stream.acceptWord("zoom")) {
-    map.zoom = parseZoom(stream);
-  } else if (stream.acceptWord("scale")) {
-    map.zoom = parseScale(stream);
-  } else if (stream.acceptWord("preserve")) {
-    map.preserve = parsePreserve(stream);
-  } else if (stream.acceptWord("display")) {
-    map.status = parseStatus(stream);
-  } else {
-    return false;
-  }
-  return true;
+void readLayer(TokenStream& stream, SetMap& map) {
+  const Position position = stream.before().position;
+  map.layers.push_back(parseLayerChange(stream, position));
 }
 
-bool acceptMapClause(TokenStream& stream, SetMap& map) {
-  const Position position = stream.position();
-  if (acceptView(stream, map) || acceptUnits(stream, map)) return true;
-  if (stream.acceptWord("redraw")) {
-    map.redraw = parseSwitch(stream);
-  } else if (stream.acceptWord("clipping")) {
-    map.clipping = parseClipping(stream);
-  } else if (stream.acceptWord("order")) {
-    map.order = parseExpressionList(stream);
-  } else if (stream.acceptWord("layer")) {
-    map.layers.push_back(parseLayerChange(stream, position));
-  } else {
-    return false;
-  }
-  return true;
-}
+using Rule = ClauseRule<SetMap>;
+
+constexpr std::array kRules = {
+    Rule{"coordsys", Support::done,
+         [](TokenStream& stream, SetMap& map) { map.coordSys = parseCoordSysClause(stream); }},
+    Rule{"center", Support::done, [](TokenStream& stream, SetMap& map) { map.center = parseCoordinatePair(stream); }},
+    Rule{"zoom", Support::done, [](TokenStream& stream, SetMap& map) { map.zoom = parseZoom(stream); }},
+    Rule{"scale", Support::done, [](TokenStream& stream, SetMap& map) { map.zoom = parseScale(stream); }},
+    Rule{"preserve zoom", Support::done, setPreserved<SetMap::Preserve::zoom>},
+    Rule{"preserve scale", Support::done, setPreserved<SetMap::Preserve::scale>},
+    Rule{"display", Support::done, [](TokenStream& stream, SetMap& map) { map.status = parseStatus(stream); }},
+    Rule{"distance type", Support::passedOver, ignoreDistanceType},
+    Rule{"distance units", Support::done, readUnit<&SetMap::distanceUnit>},
+    Rule{"area units", Support::done, readUnit<&SetMap::areaUnit>},
+    Rule{"xy units", Support::done, readUnit<&SetMap::xyUnit>},
+    Rule{"redraw", Support::passedOver, ignoreSwitch<SetMap>},
+    Rule{"clipping", Support::passedOver, ignoreClipping},
+    Rule{"order", Support::done, [](TokenStream& stream, SetMap& map) { map.order = parseExpressionList(stream); }},
+    Rule{"layer", Support::done, readLayer},
+};
 
 }  // namespace
 
@@ -114,10 +91,15 @@ Statement parseSetMap(TokenStream& stream, Position position) {
   SetMap map;
   map.position = position;
   map.window = parseWindowClause(stream);
-  if (!acceptMapClause(stream, map)) stream.failExpecting("una cláusula de Set Map");
-  while (acceptMapClause(stream, map)) {
-  }
+  if (!acceptClauses<SetMap>(stream, kRules, map)) stream.failExpecting("una cláusula de Set Map");
   return map;
+}
+
+ClauseEntries setMapClauses() {
+  ClauseEntries entries;
+  addEntries<SetMap>(entries, "", kRules);
+  addLayerEntries(entries, "layer");
+  return entries;
 }
 
 }  // namespace motor

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
 #include "motor/language/parsing/style_parser.h"
@@ -80,21 +82,6 @@ void parseMaximumSize(TokenStream& stream, ShadeChart& chart) {
   if (stream.acceptWord("by")) chart.by = parseBy(stream);
 }
 
-bool acceptChartSwitch(TokenStream& stream, ShadeChart& chart) {
-  if (stream.acceptWord("counter")) {
-    chart.counterClockwise = true;
-  } else if (stream.acceptWord("fixed")) {
-    chart.fixed = true;
-  } else if (stream.acceptWord("stacked")) {
-    chart.stacked = true;
-  } else if (stream.acceptWord("normalized")) {
-    chart.normalized = true;
-  } else {
-    return false;
-  }
-  return true;
-}
-
 void parseChartParts(TokenStream& stream, ShadeChart& chart) {
   do {
     chart.parts.push_back(parseStyleList(stream));
@@ -102,35 +89,36 @@ void parseChartParts(TokenStream& stream, ShadeChart& chart) {
   } while (stream.acceptSign(","));
 }
 
-bool acceptChartClause(TokenStream& stream, ShadeChart& chart) {
-  if (acceptChartSwitch(stream, chart)) return true;
-  if (stream.acceptWord("angle")) {
-    chart.angle = parseExpression(stream);
-  } else if (stream.acceptWord("max")) {
-    parseMaximumSize(stream, chart);
-  } else if (stream.acceptWord("border")) {
-    chart.border = parseStyleClause(stream, StyleClause::Kind::pen);
-  } else if (stream.acceptWord("frame")) {
-    chart.frame = parseStyleClause(stream, StyleClause::Kind::brush);
-  } else if (stream.acceptWord("width")) {
-    chart.width = parseMeasure(stream);
-  } else if (stream.acceptWord("position")) {
-    chart.placement = parseAnchor(stream);
-  } else if (stream.acceptWord("style")) {
-    parseChartParts(stream, chart);
-  } else {
-    return false;
-  }
-  return true;
+template <auto kField, auto kStyle>
+void readChartStyle(TokenStream& stream, ShadeChart& chart) {
+  chart.*kField = parseStyleClause(stream, kStyle);
 }
 
-ShadeKind parseChart(TokenStream& stream, bool isPie, bool half) {
+using ChartRule = ClauseRule<ShadeChart>;
+
+constexpr std::array kChartRules = {
+    ChartRule{"counter", Support::done, setTo<&ShadeChart::counterClockwise, true>},
+    ChartRule{"fixed", Support::done, setTo<&ShadeChart::fixed, true>},
+    ChartRule{"stacked", Support::done, setTo<&ShadeChart::stacked, true>},
+    ChartRule{"normalized", Support::done, setTo<&ShadeChart::normalized, true>},
+    ChartRule{"angle", Support::done, readExpression<&ShadeChart::angle>},
+    ChartRule{"max", Support::done, parseMaximumSize},
+    ChartRule{"border", Support::done, readChartStyle<&ShadeChart::border, StyleClause::Kind::pen>},
+    ChartRule{"frame", Support::done, readChartStyle<&ShadeChart::frame, StyleClause::Kind::brush>},
+    ChartRule{"width", Support::done,
+              [](TokenStream& stream, ShadeChart& chart) { chart.width = parseMeasure(stream); }},
+    ChartRule{"position", Support::done,
+              [](TokenStream& stream, ShadeChart& chart) { chart.placement = parseAnchor(stream); }},
+    ChartRule{"style", Support::done, parseChartParts},
+};
+
+template <bool kIsPie, bool kHalf>
+void readChart(TokenStream& stream, ShadeKind& kind) {
   ShadeChart chart;
-  chart.isPie = isPie;
-  chart.half = half;
-  while (acceptChartClause(stream, chart)) {
-  }
-  return chart;
+  chart.isPie = kIsPie;
+  chart.half = kHalf;
+  acceptClauses<ShadeChart>(stream, kChartRules, chart);
+  kind = std::move(chart);
 }
 
 // min: size max: size Symbol ... [Inflect Symbol ...] [Vary Size By "..."]
@@ -165,16 +153,22 @@ ShadeKind parseDensity(TokenStream& stream) {
   return density;
 }
 
-ShadeKind parseKind(TokenStream& stream) {
-  if (stream.acceptWord("ranges")) return parseRanges(stream);
-  if (stream.acceptWord("values")) return parseValues(stream);
-  if (stream.acceptWord("graduated")) return parseGraduated(stream);
-  if (stream.acceptWord("density")) return parseDensity(stream);
-  if (stream.acceptWord("bar")) return parseChart(stream, false, false);
-  const bool half = stream.acceptWord("half");
-  if (stream.acceptWord("pie")) return parseChart(stream, true, half);
-  stream.failExpecting("Ranges, Values, Pie, Bar, Graduated o Density");
+template <ShadeKind (*kParse)(TokenStream&)>
+void readKind(TokenStream& stream, ShadeKind& kind) {
+  kind = kParse(stream);
 }
+
+using KindRule = ClauseRule<ShadeKind>;
+
+constexpr std::array kKindRules = {
+    KindRule{"ranges", Support::done, readKind<parseRanges>},
+    KindRule{"values", Support::done, readKind<parseValues>},
+    KindRule{"graduated", Support::done, readKind<parseGraduated>},
+    KindRule{"density", Support::done, readKind<parseDensity>},
+    KindRule{"bar", Support::done, readChart<false, false>},
+    KindRule{"pie", Support::done, readChart<true, false>},
+    KindRule{"half pie", Support::done, readChart<true, true>},
+};
 
 // With expression, ... [Ignore value, ...] kind
 void parseTheme(TokenStream& stream, Shade& shade) {
@@ -183,7 +177,9 @@ void parseTheme(TokenStream& stream, Shade& shade) {
     shade.with.push_back(parseWrittenExpression(stream));
   } while (stream.acceptSign(","));
   if (stream.acceptWord("ignore")) shade.ignored = parseExpressionList(stream);
-  shade.kind = parseKind(stream);
+  if (!acceptClause<ShadeKind>(stream, kKindRules, shade.kind)) {
+    stream.failExpecting("Ranges, Values, Pie, Bar, Graduated o Density");
+  }
   skipEditorTrailer(stream);
 }
 
@@ -207,6 +203,13 @@ Statement parseSetShade(TokenStream& stream, Position position) {
   if (!set.previous) set.shade.layer = parseLayerReference(stream);
   parseTheme(stream, set.shade);
   return set;
+}
+
+ClauseEntries shadeClauses() {
+  ClauseEntries entries;
+  addEntries<ShadeKind>(entries, "", kKindRules);
+  addEntries<ShadeChart>(entries, "pie/bar", kChartRules);
+  return entries;
 }
 
 }  // namespace motor

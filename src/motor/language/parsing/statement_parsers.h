@@ -1,5 +1,6 @@
 #pragma once
 
+#include "motor/language/parsing/clauses.h"
 #include "motor/language/parsing/token_stream.h"
 #include "motor/language/statement.h"
 
@@ -59,5 +60,20 @@ Statement parseCreateRoundedRectangle(TokenStream& stream, Position position);
 Statement parseCreateEllipse(TokenStream& stream, Position position);
 Statement parseCreateArc(TokenStream& stream, Position position);
 Statement parseCreateText(TokenStream& stream, Position position);
+
+// The clauses of the statements that have some in any order, for the manual.
+[[nodiscard]] ClauseEntries openTableClauses();
+[[nodiscard]] ClauseEntries selectClauses();
+[[nodiscard]] ClauseEntries mapFromClauses();
+[[nodiscard]] ClauseEntries setMapClauses();
+[[nodiscard]] ClauseEntries setWindowClauses();
+[[nodiscard]] ClauseEntries setLegendClauses();
+[[nodiscard]] ClauseEntries shadeClauses();
+[[nodiscard]] ClauseEntries createMenuClauses();
+[[nodiscard]] ClauseEntries createButtonPadClauses();
+[[nodiscard]] ClauseEntries alterButtonPadClauses();
+[[nodiscard]] ClauseEntries cartographicLegendClauses();
+[[nodiscard]] ClauseEntries shapeClauses();
+[[nodiscard]] ClauseEntries textClauses();
 
 }  // namespace motor

@@ -2,16 +2,17 @@
 
 #include <span>
 
+#include "motor/language/parsing/clauses.h"
 #include "motor/language/parsing/statement_parsers.h"
 
+// What the parser goes by, and what the manual lists. A statement's words are in lower case, a blank between two.
 namespace motor {
 
-// A statement by the words it begins with; without a second (third) word, that one is null.
 struct StatementRule {
-  const char* first;
-  const char* second;
-  const char* third;
+  const char* words;
   StatementParser parse;
+  const char* form;            // what follows the words, for the manual
+  ClauseEntries (*clauses)();  // null: the form says all
 };
 
 // All statements that are read in full. Of two rules that fit, the one that stands first counts.
@@ -19,15 +20,14 @@ struct StatementRule {
 
 // A statement that is understood and passed over.
 struct PassedOverRule {
-  const char* first;
-  const char* second;  // or null
+  const char* words;
   void (*read)(TokenStream& stream);
 };
 
 // A statement that is only known by its words and read up to the next one.
 struct RefusedRule {
-  const char* first;
-  const char* second;  // or null
+  const char* words;
+  const char* reason;  // what is not allowed, as the user is told
 };
 
 // What only concerns printing set-up, floating tool windows, layouts and browsers: nothing happens.

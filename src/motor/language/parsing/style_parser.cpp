@@ -22,6 +22,15 @@ constexpr std::array kStyleWords = {
     StyleWord{"font", "Font (...)", StyleClause::Kind::font},
 };
 
+// ( argument, ... ) of the clause whose word was read last.
+StyleClause parseArguments(TokenStream& stream, StyleClause::Kind kind) {
+  StyleClause clause{stream.before().position, kind, {}};
+  stream.expectSign("(");
+  clause.arguments = parseExpressionList(stream);
+  stream.expectSign(")");
+  return clause;
+}
+
 }  // namespace
 
 std::optional<StyleClause> acceptStyleClause(TokenStream& stream) {
@@ -29,12 +38,14 @@ std::optional<StyleClause> acceptStyleClause(TokenStream& stream) {
     return stream.isWord(row.word) && stream.isSign("(", 1);
   });
   if (word == kStyleWords.end()) return std::nullopt;
-  StyleClause clause{stream.position(), word->kind, {}};
   stream.next();
-  stream.expectSign("(");
-  clause.arguments = parseExpressionList(stream);
-  stream.expectSign(")");
-  return clause;
+  return parseArguments(stream, word->kind);
+}
+
+StyleClause parseStyleArguments(TokenStream& stream) {
+  const auto* word = std::find_if(kStyleWords.begin(), kStyleWords.end(),
+                                  [&stream](const StyleWord& row) { return stream.before().isWord(row.word); });
+  return parseArguments(stream, word->kind);
 }
 
 StyleClause parseStyleClause(TokenStream& stream, StyleClause::Kind kind) {

@@ -11,6 +11,9 @@ namespace motor {
 // The clause of one kind, whose word has to come next.
 [[nodiscard]] StyleClause parseStyleClause(TokenStream& stream, StyleClause::Kind kind);
 
+// The clause whose word was read last.
+[[nodiscard]] StyleClause parseStyleArguments(TokenStream& stream);
+
 // All style clauses that come next, maybe none.
 [[nodiscard]] StyleList parseStyleList(TokenStream& stream);
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/select_parser.h"
@@ -11,21 +12,24 @@ namespace {
 
 constexpr const char* kTable = "el nombre de una tabla";
 
-bool acceptOpenClause(TokenStream& stream, OpenTable& open) {
-  if (stream.acceptWord("as")) {
-    open.as = parseName(stream, kTable);
-  } else if (stream.acceptWord("interactive")) {
-    open.interactive = true;
-  } else if (stream.acceptWord("hide")) {
-    open.hidden = true;
-  } else if (stream.acceptWord("password")) {
-    static_cast<void>(stream.expectText("una contraseña entre comillas"));
-  } else {
-    return stream.acceptWord("readonly") || stream.acceptWord("noindex") || stream.acceptWord("denywrite") ||
-           stream.acceptWord("vmgrid") || stream.acceptWord("vmraster") || stream.acceptWord("vmdefault");
-  }
-  return true;
+void ignorePassword(TokenStream& stream, OpenTable& /*open*/) {
+  static_cast<void>(stream.expectText("una contraseña entre comillas"));
 }
+
+using OpenRule = ClauseRule<OpenTable>;
+
+constexpr std::array kOpenRules = {
+    OpenRule{"as", Support::done, [](TokenStream& stream, OpenTable& open) { open.as = parseName(stream, kTable); }},
+    OpenRule{"interactive", Support::done, setTo<&OpenTable::interactive, true>},
+    OpenRule{"readonly", Support::done, readNothing<OpenTable>},
+    OpenRule{"denywrite", Support::done, readNothing<OpenTable>},
+    OpenRule{"noindex", Support::done, readNothing<OpenTable>},
+    OpenRule{"hide", Support::passedOver, setTo<&OpenTable::hidden, true>},
+    OpenRule{"password", Support::passedOver, ignorePassword},
+    OpenRule{"vmgrid", Support::passedOver, readNothing<OpenTable>},
+    OpenRule{"vmraster", Support::passedOver, readNothing<OpenTable>},
+    OpenRule{"vmdefault", Support::passedOver, readNothing<OpenTable>},
+};
 
 // (column [type [(width [, decimals])]])
 void parseNewColumn(TokenStream& stream, AddColumn& add) {
@@ -55,9 +59,14 @@ Statement parseOpenTable(TokenStream& stream, Position position) {
   OpenTable open;
   open.position = position;
   open.file = parseExpression(stream);
-  while (acceptOpenClause(stream, open)) {
-  }
+  acceptClauses<OpenTable>(stream, kOpenRules, open);
   return open;
+}
+
+ClauseEntries openTableClauses() {
+  ClauseEntries entries;
+  addEntries<OpenTable>(entries, "", kOpenRules);
+  return entries;
 }
 
 Statement parseCloseTable(TokenStream& stream, Position position) {

@@ -41,6 +41,23 @@ bool TokenStream::acceptSign(const char* sign) {
   return true;
 }
 
+std::size_t TokenStream::wordsNext(std::string_view phrase) const {
+  std::size_t count = 0;
+  while (!phrase.empty()) {
+    const std::size_t end = std::min(phrase.find(' '), phrase.size());
+    const Token& token = peek(count);
+    if (token.kind != Token::Kind::name || token.folded != phrase.substr(0, end)) return 0;
+    ++count;
+    phrase.remove_prefix(std::min(end + 1, phrase.size()));
+  }
+  return count;
+}
+
+void TokenStream::passOver(Position position, std::string_view words) {
+  if (quiet_ > 0) return;
+  passedOver_.push_back({position, words.empty() ? statement_ : statement_ + " ... " + std::string(words)});
+}
+
 void TokenStream::expectWord(const char* word, const char* expected) {
   if (!acceptWord(word)) failExpecting(expected);
 }

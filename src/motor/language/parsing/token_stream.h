@@ -1,11 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "motor/language/passed_over.h"
 #include "motor/language/token.h"
 
 namespace motor {
@@ -21,6 +23,8 @@ class TokenStream {
   [[nodiscard]] const Token& peek(std::size_t ahead = 0) const;
   const Token& next();
   [[nodiscard]] Position position() const { return peek().position; }
+  // The token that was read last, of those that have been.
+  [[nodiscard]] const Token& before() const { return tokens_[index_ > 0 ? index_ - 1 : 0]; }
   [[nodiscard]] bool atEnd() const { return peek().kind == Token::Kind::end; }
   [[nodiscard]] std::size_t index() const { return index_; }
 
@@ -32,6 +36,27 @@ class TokenStream {
   bool acceptWord(const char* word);
   bool acceptWords(const char* first, const char* second);
   bool acceptSign(const char* sign);
+
+  // How many words of a phrase ("auto retry"; in lower case, a blank between two) come next: all of them, or 0.
+  [[nodiscard]] std::size_t wordsNext(std::string_view phrase) const;
+  void skip(std::size_t tokens) { index_ = std::min(index_ + tokens, tokens_.size() - 1); }
+
+  // What is read and without effect is written down under the words of its statement.
+  void beginStatement(std::string words) { statement_ = std::move(words); }
+  void passOver(Position position, std::string_view words);
+  [[nodiscard]] const std::vector<PassedOverPart>& passedOver() const { return passedOver_; }
+
+  // While it lives nothing is written down: it belongs to something that is.
+  class Quiet {
+   public:
+    explicit Quiet(TokenStream& stream) : stream_(stream) { ++stream_.quiet_; }
+    ~Quiet() { --stream_.quiet_; }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+   private:
+    TokenStream& stream_;
+  };
 
   // Reads what has to come next, or fails; `expected` is told to the user.
   void expectWord(const char* word, const char* expected);
@@ -62,6 +87,9 @@ class TokenStream {
   std::vector<Token> tokens_;
   std::size_t index_ = 0;
   int depth_ = 0;
+  std::string statement_;  // the words of the one that is read
+  std::vector<PassedOverPart> passedOver_;
+  int quiet_ = 0;
 };
 
 }  // namespace motor

@@ -1,6 +1,9 @@
+#include <array>
+
 #include "motor/language/parsing/part_parsers.h"
 #include "motor/language/parsing/statement_parsers.h"
 #include "motor/language/parsing/style_parser.h"
+#include "motor/language/parsing/window_shape_parser.h"
 
 // Set Window, Open Window, Close Window, Set Application Window, Set Next Document.
 namespace motor {
@@ -16,77 +19,58 @@ void readMargins(TokenStream& stream) {
   static_cast<void>(parseUnits(stream));
 }
 
-// Printer Name n Orientation o Copies c Papersize p ...: each word with one value; read and not kept.
-bool acceptPrinterClause(TokenStream& stream) {
-  if (stream.acceptWord("orientation")) {
-    if (!stream.acceptWord("portrait") && !stream.acceptWord("landscape")) {
-      stream.failExpecting("Portrait o Landscape");
-    }
-    return true;
-  }
-  if (stream.acceptWord("margins")) {
-    readMargins(stream);
-    return true;
-  }
-  if (stream.isAnyWord({"name", "copies", "papersize", "file"})) {
-    stream.next();
-    static_cast<void>(parseExpression(stream));
-    return true;
-  }
-  if (!stream.isAnyWord({"border", "truecolor", "colorreduction", "antialiasing"})) return false;
-  stream.next();
-  static_cast<void>(parseSwitch(stream));
-  return true;
-}
+// What a printer is told: read and not kept.
+struct Printer {};
 
-void readPrinter(TokenStream& stream) {
-  stream.acceptWord("default");
-  while (acceptPrinterClause(stream)) {
+void ignoreMargins(TokenStream& stream, Printer& /*printer*/) { readMargins(stream); }
+
+constexpr std::array kPrinterRules = {
+    ClauseRule<Printer>{"default", Support::passedOver, readNothing<Printer>},
+    ClauseRule<Printer>{"name", Support::passedOver, ignoreExpression<Printer>},
+    ClauseRule<Printer>{"orientation portrait", Support::passedOver, readNothing<Printer>},
+    ClauseRule<Printer>{"orientation landscape", Support::passedOver, readNothing<Printer>},
+    ClauseRule<Printer>{"copies", Support::passedOver, ignoreExpression<Printer>},
+    ClauseRule<Printer>{"papersize", Support::passedOver, ignoreExpression<Printer>},
+    ClauseRule<Printer>{"file", Support::passedOver, ignoreExpression<Printer>},
+    ClauseRule<Printer>{"margins", Support::passedOver, ignoreMargins},
+    ClauseRule<Printer>{"border", Support::passedOver, ignoreSwitch<Printer>},
+    ClauseRule<Printer>{"truecolor", Support::passedOver, ignoreSwitch<Printer>},
+    ClauseRule<Printer>{"colorreduction", Support::passedOver, ignoreSwitch<Printer>},
+    ClauseRule<Printer>{"antialiasing", Support::passedOver, ignoreSwitch<Printer>},
+};
+
+void ignorePrinter(TokenStream& stream, SetWindow& /*set*/) {
+  Printer printer;
+  while (acceptClause<Printer>(stream, kPrinterRules, printer)) {
   }
 }
 
-bool acceptForeignClause(TokenStream& stream) {
-  if (stream.acceptWord("printer")) {
-    readPrinter(stream);
-  } else if (stream.isWord("font")) {
-    static_cast<void>(parseStyleClause(stream, StyleClause::Kind::font));
-  } else if (stream.acceptWords("snap", "mode") || stream.acceptWords("smart", "pan")) {
-    static_cast<void>(parseSwitch(stream));
-  } else {
-    return false;
-  }
-  return true;
+bool isStyleNext(const TokenStream& stream) { return stream.isSign("(", 1); }
+
+void readTitle(TokenStream& stream, SetWindow& set) {
+  set.title = stream.acceptWord("default") ? nullptr : parseExpression(stream);
 }
 
-bool acceptLook(TokenStream& stream, SetWindow& set) {
-  if (stream.acceptWord("show")) {
-    set.shown = true;
-  } else if (stream.acceptWord("hide")) {
-    set.shown = false;
-  } else if (stream.acceptWord("front")) {
-    set.front = true;
-  } else if (stream.acceptWord("scrollbars")) {
-    set.scrollBars = parseSwitch(stream);
-  } else if (stream.acceptWord("autoscroll")) {
-    set.autoscroll = parseSwitch(stream);
-  } else if (stream.acceptWord("sysmenuclose")) {
-    set.closeBox = parseSwitch(stream);
-  } else {
-    return false;
-  }
-  return true;
-}
+using Rule = ClauseRule<SetWindow>;
+
+constexpr std::array kRules = {
+    Rule{"title", Support::done, readTitle},
+    Rule{"parent", Support::done, readExpression<&SetWindow::parent>},
+    Rule{"front", Support::done, setTo<&SetWindow::front, true>},
+    Rule{"scrollbars", Support::done, readSwitch<&SetWindow::scrollBars>},
+    Rule{"autoscroll", Support::done, readSwitch<&SetWindow::autoscroll>},
+    Rule{"sysmenuclose", Support::done, readSwitch<&SetWindow::closeBox>},
+    Rule{"show", Support::passedOver, setTo<&SetWindow::shown, true>},
+    Rule{"hide", Support::passedOver, setTo<&SetWindow::shown, false>},
+    Rule{"printer", Support::passedOver, ignorePrinter},
+    Rule{"font", Support::passedOver,
+         [](TokenStream& stream, SetWindow& /*set*/) { static_cast<void>(parseStyleArguments(stream)); }, isStyleNext},
+    Rule{"snap mode", Support::passedOver, ignoreSwitch<SetWindow>},
+    Rule{"smart pan", Support::passedOver, ignoreSwitch<SetWindow>},
+};
 
 bool acceptWindowClause(TokenStream& stream, SetWindow& set) {
-  if (acceptWindowShape(stream, set.shape) || acceptLook(stream, set) || acceptForeignClause(stream)) return true;
-  if (stream.acceptWord("title")) {
-    set.title = stream.acceptWord("default") ? nullptr : parseExpression(stream);
-  } else if (stream.acceptWord("parent")) {
-    set.parent = parseExpression(stream);
-  } else {
-    return false;
-  }
-  return true;
+  return acceptClause(stream, windowShapeRules(), set.shape) || acceptClause<SetWindow>(stream, kRules, set);
 }
 
 }  // namespace
@@ -99,6 +83,14 @@ Statement parseSetWindow(TokenStream& stream, Position position) {
   while (acceptWindowClause(stream, set)) {
   }
   return set;
+}
+
+ClauseEntries setWindowClauses() {
+  ClauseEntries entries;
+  addEntries(entries, "", windowShapeRules());
+  addEntries<SetWindow>(entries, "", kRules);
+  addEntries<Printer>(entries, "printer", kPrinterRules);
+  return entries;
 }
 
 Statement parseOpenWindow(TokenStream& stream, Position position) {

@@ -15,7 +15,8 @@ struct PassedOver {
 // A statement that writes, deletes, starts a program or loads a library: an error when it is run.
 struct Refused {
   Position position;
-  std::string name;  // "Save Table"
+  std::string name;    // "Save Table"
+  const char* reason;  // what is not allowed, as the user is told
 };
 
 }  // namespace motor

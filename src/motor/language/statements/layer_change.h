@@ -48,16 +48,11 @@ struct LabelClause {
   std::optional<StyleClause> pen;
   std::optional<WrittenExpression> with;
   std::optional<bool> parallel;
-  std::optional<bool> followPath;
   std::optional<Visibility> visibility;
   std::optional<ZoomRange> visibilityZoom;  // of Visibility::zoom
   std::optional<bool> automatic;
-  std::optional<bool> retry;  // Auto Retry
   std::optional<bool> overlap;
-  std::optional<bool> partialSegments;
   std::optional<bool> duplicates;
-  ExpressionPtr maximum;  // Max n; `Max` alone lifts the limit
-  bool unlimited = false;
   ExpressionPtr offset;  // points
   std::vector<CustomLabel> objects;
 };
@@ -74,7 +69,6 @@ struct LayerChange {
   std::optional<bool> arrows;
   std::optional<bool> nodes;
   std::optional<bool> centroids;
-  bool defaultZoom = false;  // Default Zoom: the view goes back to the one stored with the table
   std::optional<LabelClause> label;
 };
 

@@ -48,28 +48,41 @@ struct CreateLegend {
   bool shown = true;
 };
 
+// What stands above a frame or beside its signs: a text, in which # is the layer's name and % the kind of its objects.
+struct FrameText {
+  ExpressionPtr text;
+  std::optional<StyleClause> font;
+};
+
 // One line of a frame: Text t  Symbol ... | Line Pen ... | Region Pen ... Brush ...
 struct LegendSample {
+  enum class Kind { point, line, region };
+
   Position position;
   ExpressionPtr text;
+  Kind kind = Kind::point;
   StyleList style;
 };
 
-// Frame From Layer n ...
+// Frame From Layer n [Position (x, y)] [Title t] [Subtitle t] [Style sample ...] ...
 struct LegendFrame {
   Position position;
   LayerReference layer;
-  ExpressionPtr title;
-  ExpressionPtr subtitle;
+  std::optional<Placement> place;
+  FrameText title;
+  FrameText subtitle;
+  std::optional<StyleClause> sampleFont;
   std::vector<LegendSample> samples;
 };
 
-// Create Cartographic Legend [From Window id] ... Frame From Layer n ...
+// Create Cartographic Legend [From Window id] [Default Frame Title t] ... Frame From Layer n ...
 struct CreateCartographicLegend {
   Position position;
   ExpressionPtr window;
   WindowShape shape;
-  ExpressionPtr title;
+  FrameText defaultTitle;
+  FrameText defaultSubtitle;
+  FrameText defaultStyle;
   std::vector<LegendFrame> frames;
 };
 

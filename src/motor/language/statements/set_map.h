@@ -20,12 +20,6 @@ struct ScaleClause {
 // Zoom w [Units u], Zoom Entire or Scale: how much the map shows. Of several the last one counts.
 using ZoomClause = std::variant<Measure, ZoomEntire, ScaleClause>;
 
-// Clipping Off | Object e
-struct ClippingClause {
-  Position position;
-  ExpressionPtr object;  // null: Off
-};
-
 // Set Map [Window id] ...: the window's own clauses, then those of its layers in the order written.
 struct SetMap {
   enum class Preserve { zoom, scale };
@@ -41,8 +35,6 @@ struct SetMap {
   std::string distanceUnit;
   std::string areaUnit;
   std::string xyUnit;
-  std::optional<bool> redraw;
-  std::optional<ClippingClause> clipping;
   std::vector<ExpressionPtr> order;
   std::vector<LayerChange> layers;
 };

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "motor/drawing/scale_bar.h"
+#include "motor/drawing/wrapped_text.h"
 #include "motor/session/ground_distance.h"
 #include "motor/window/lettering.h"
 #include "motor/window/printing/north_arrow.h"
@@ -41,6 +42,26 @@ void paintLine(QPainter& painter, const QFont& font, const QColor& colour, const
   painter.setFont(font);
   painter.setPen(colour);
   painter.drawText(QPointF(left, corner.y() + metrics.ascent()), shown);
+}
+
+// A heading in as many lines as the page's width asks for.
+QStringList headingLines(const QString& text, const QFont& font, double room) {
+  return wrappedText(text, QFontMetricsF(font), room, room);
+}
+
+double headingHeight(const QString& text, const QFont& font, double room) {
+  return text.isEmpty() ? 0 : heightOf(font) * static_cast<double>(headingLines(text, font, room).size());
+}
+
+// From `top` on; gives the bottom.
+double paintHeading(QPainter& painter, const QString& text, const QFont& font, const QColor& colour, double top,
+                    double room) {
+  if (text.isEmpty()) return top;
+  for (const QString& line : headingLines(text, font, room)) {
+    paintLine(painter, font, colour, line, {0, top}, room, Qt::AlignLeft);
+    top += heightOf(font);
+  }
+  return top;
 }
 
 QString ratioText(double ratio) {
@@ -90,9 +111,10 @@ void MapPage::placeBelow(Layout& layout, const QRectF& body) const {
 
 MapPage::Layout MapPage::layoutFor(QSizeF page) const {
   Layout layout;
-  double top = 0;
-  if (!texts_.title.isEmpty()) top += heightOf(titleFont());
-  if (!texts_.subtitle.isEmpty()) top += (top > 0 ? kLineGap : 0) + heightOf(subtitleFont());
+  double top = headingHeight(texts_.title, titleFont(), page.width());
+  if (!texts_.subtitle.isEmpty()) {
+    top += (top > 0 ? kLineGap : 0) + headingHeight(texts_.subtitle, subtitleFont(), page.width());
+  }
   layout.title = QRectF(0, 0, page.width(), top);
   const double footer = heightOf(footerFont()) + kFooterGap;
   layout.footer = QRectF(0, page.height() - footer, page.width(), footer);
@@ -129,14 +151,8 @@ void MapPage::paint(QPainter& painter, QSizeF page, double devicePixelRatio) con
 
 void MapPage::paintTexts(QPainter& painter, const Layout& layout) const {
   const double room = layout.title.width();
-  double top = 0;
-  if (!texts_.title.isEmpty()) {
-    paintLine(painter, titleFont(), kInk, texts_.title, {0, top}, room, Qt::AlignLeft);
-    top += heightOf(titleFont()) + kLineGap;
-  }
-  if (!texts_.subtitle.isEmpty()) {
-    paintLine(painter, subtitleFont(), kMuted, texts_.subtitle, {0, top}, room, Qt::AlignLeft);
-  }
+  const double top = paintHeading(painter, texts_.title, titleFont(), kInk, 0, room);
+  paintHeading(painter, texts_.subtitle, subtitleFont(), kMuted, top > 0 ? top + kLineGap : 0, room);
   painter.setPen(QPen(kRule, 0.7));
   painter.drawLine(layout.footer.topLeft(), layout.footer.topRight());
   const double foot = layout.footer.top() + kFooterGap;

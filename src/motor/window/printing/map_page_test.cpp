@@ -52,6 +52,17 @@ TEST_F(Pages, HaveTheirPartsBelowEachOther) {
   EXPECT_NEAR(layout.footer.bottom(), 1000, 1e-9);
 }
 
+TEST_F(Pages, LongTitlesAreBrokenAndCutNowhere) {
+  const QString words = QStringLiteral("Razón estandarizada de mortalidad por enfermedades cerebrovasculares ");
+  const auto titled = [&](const QString& title) { return MapPage(map(), {title, words, "", ""}, {}); };
+  const MapPage::Layout one = titled("Título").layoutFor({400, 600});
+  const MapPage::Layout three = titled(words + words + words).layoutFor({400, 600});
+  EXPECT_GT(three.title.height(), one.title.height() + 40);
+  EXPECT_GT(three.map.top(), three.title.bottom());
+  EXPECT_GT(inkIn(painted(titled(words + words + words), {400, 600}), three.title),
+            2 * inkIn(painted(titled(words), {400, 600}), one.title));
+}
+
 TEST_F(Pages, AThemesLegendGoesWhereTheMapKeepsMoreRoom) {
   addTheme();
   const MapPage::Layout high = page().layoutFor(kPage);
@@ -103,12 +114,18 @@ TEST_F(Pages, TextsComeFromTheMapsThemeAndItsWindow) {
   EXPECT_EQ(texts.title, "El atlas") << "the map's own title is only its tables";
   EXPECT_EQ(texts.source, "Fuente: El atlas");
   EXPECT_EQ(texts.date, "1 de mayo de 2003");
-  session_->run("Set Window FrontWindow() Title \"Provincias\"");
-  EXPECT_EQ(pageTexts(window(), "El atlas", day).title, "Provincias");
   addTheme();
   texts = pageTexts(window(), "El atlas", day);
   EXPECT_EQ(texts.title, "Un tema");
   EXPECT_EQ(texts.subtitle, "de un año");
+  session_->run("Set Window FrontWindow() Title \"Provincias\"");
+  texts = pageTexts(window(), "El atlas", day);
+  EXPECT_EQ(texts.title, "Provincias");
+  EXPECT_EQ(texts.subtitle, "de un año");
+  session_->run("Set Window FrontWindow() Title \"Tasa. Mujeres, 2002. Zonas\"");
+  texts = pageTexts(window(), "El atlas", day);
+  EXPECT_EQ(texts.title, "Tasa");
+  EXPECT_EQ(texts.subtitle, "Mujeres, 2002. Zonas");
   EXPECT_TRUE(pageTexts(window(), "", day).source.isEmpty());
 }
 
