@@ -16,7 +16,7 @@ if(CCACHE_PROGRAM)
 endif()
 
 option(VELDORIA_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
-option(VELDORIA_FUZZ "Build the fuzzers (clang only)" OFF)
+option(VELDORIA_FUZZ "Build the fuzzers, and everything so that they see what it does (clang with sanitizers only)" OFF)
 
 add_library(veldoria_options INTERFACE)
 target_compile_options(veldoria_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
@@ -27,4 +27,7 @@ if(VELDORIA_SANITIZE)
   target_compile_options(veldoria_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                     -fno-omit-frame-pointer)
   target_link_options(veldoria_options INTERFACE -fsanitize=address,undefined)
+  if(VELDORIA_FUZZ)
+    target_compile_options(veldoria_options INTERFACE -fsanitize=fuzzer-no-link)
+  endif()
 endif()
