@@ -1,5 +1,6 @@
 #include "study/command_line.h"
 
+#include <algorithm>
 #include <charconv>
 #include <exception>
 #include <filesystem>
@@ -35,6 +36,14 @@ struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// A folder is not named like an option: a mistyped one is more likely.
+void expectFolders(Arguments folders) {
+  for (const std::string& folder : folders) {
+    if (folder.empty()) throw UsageError("");
+    if (folder.starts_with('-')) throw UsageError("there is no option " + folder);
+  }
+}
+
 void build(const std::filesystem::path& input, const std::string& output, const Progress& progress) {
   OutputFolder folder(output);
   folder.refuseInput(input);
@@ -53,12 +62,14 @@ void build(const std::filesystem::path& input, const std::string& output, const 
 }
 
 void buildCommand(Arguments arguments, const Progress& progress) {
-  if (arguments.size() != 2 || arguments[0].empty() || arguments[1].empty()) throw UsageError("");
+  if (arguments.size() != 2) throw UsageError("");
+  expectFolders(arguments);
   build(arguments[0], arguments[1], progress);
 }
 
 void sampleCommand(Arguments arguments, const Progress& progress) {
-  if (arguments.size() != 1 || arguments[0].empty()) throw UsageError("");
+  if (arguments.size() != 1) throw UsageError("");
+  expectFolders(arguments);
   const TemporaryFolder input;
   generator::generateInput({}, input.path(), progress);
   build(input.path(), arguments[0], progress);
@@ -108,7 +119,8 @@ generator::GeneratorSettings settingsIn(Arguments options) {
 }
 
 void generateCommand(Arguments arguments, const Progress& progress) {
-  if (arguments.empty() || arguments[0].empty()) throw UsageError("");
+  if (arguments.empty()) throw UsageError("");
+  expectFolders(arguments.first(1));
   generator::generateInput(settingsIn(arguments.subspan(1)), arguments[0], progress);
 }
 
@@ -122,7 +134,7 @@ const std::map<std::string_view, Command>& commands() {
 }  // namespace
 
 int run(std::span<const std::string> arguments, std::ostream& out, std::ostream& err) {
-  if (arguments.empty()) {
+  if (arguments.empty() || std::find(arguments.begin(), arguments.end(), "--help") != arguments.end()) {
     out << kUsage;
     return 0;
   }

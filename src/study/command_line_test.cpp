@@ -13,13 +13,18 @@
 namespace study {
 namespace {
 
-TEST(CommandLine, WithoutArgumentsPrintsItsUsage) {
-  const ProgramRun usage = runStudy({});
-  EXPECT_EQ(usage.code, 0);
-  EXPECT_EQ(usage.err, "");
-  for (const char* line : {"usage: study build INPUT OUTPUT\n", "study sample OUTPUT\n", "study generate INPUT "}) {
-    EXPECT_NE(usage.out.find(line), std::string::npos) << line;
+TEST(CommandLine, WithoutArgumentsOrAskedForHelpPrintsItsUsage) {
+  const std::vector<std::vector<std::string>> questions{
+      {}, {"--help"}, {"generate", "--help"}, {"sample", "a", "--help"}};
+  for (const auto& question : questions) {
+    const ProgramRun usage = runStudy(question);
+    EXPECT_EQ(usage.code, 0);
+    EXPECT_EQ(usage.err, "");
+    for (const char* line : {"usage: study build INPUT OUTPUT\n", "study sample OUTPUT\n", "study generate INPUT "}) {
+      EXPECT_NE(usage.out.find(line), std::string::npos) << line;
+    }
   }
+  EXPECT_FALSE(std::filesystem::exists("--help"));
 }
 
 TEST(CommandLine, WrongWordsArePutRightByTheUsage) {
@@ -36,6 +41,9 @@ TEST(CommandLine, WrongWordsArePutRightByTheUsage) {
       {"build", "", folder},
       {"build", folder, ""},
       {"build", folder, folder, folder},
+      {"sample", "--new"},
+      {"build", "-q", folder},
+      {"generate", "--seed"},
       {"generate"},
       {"generate", ""},
       {"generate", folder, "--colour", "3"},
