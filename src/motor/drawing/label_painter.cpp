@@ -20,6 +20,7 @@ namespace motor {
 namespace {
 
 constexpr double kGap = 2;               // pixels between two labels
+constexpr double kBorderGap = 4;         // pixels between a label and its region's outline, where there is room
 constexpr double kPointGap = 5;          // pixels between a point and its label
 constexpr double kEdge = 3;              // pixels between a label and the picture's edge
 constexpr double kMostShift = 0.3;       // of its width, that a region's label is moved to keep off the edge
@@ -29,7 +30,6 @@ constexpr int kLargestSymbol = 240;      // points
 constexpr double kPixelPrecision = 1;    // of a label's place in a region that is seen in part
 constexpr double kShareOfRegion = 0.02;  // precision of a label's place, as a part of the region's size
 constexpr double kWidestLabel = 0.8;     // of the picture's width, of one that must be broken
-constexpr double kBreadth = 1.4;         // of a label, times its height: the shape that needs room in a region
 constexpr int kCentre = 0;
 
 // Where the label lies from its anchor by its position number, in halves of its size: 0 CC, 1 TL, 2 TC, 3 TR, 4 CL, 5
@@ -140,14 +140,13 @@ Point LabelPoints::of(const ObjectPtr& region) {
     for (std::size_t part = 0; part < object.partCount(); ++part) {
       QPolygonF ring;
       for (std::size_t i = object.parts[part]; i < object.partEnd(part); ++i) {
-        ring.append({object.points[i].x / kBreadth, object.points[i].y});
+        ring.append({object.points[i].x, object.points[i].y});
       }
       rings.push_back(std::move(ring));
     }
-    const double width = (object.bounds.maxX - object.bounds.minX) / kBreadth;
-    const double size = std::min(width, object.bounds.maxY - object.bounds.minY);
+    const double size = std::min(object.bounds.maxX - object.bounds.minX, object.bounds.maxY - object.bounds.minY);
     const QPointF best = labelPoint(rings, size * kShareOfRegion);
-    entry = {region, {best.x() * kBreadth, best.y()}};
+    entry = {region, {best.x(), best.y()}};
   }
   return entry.point;
 }
@@ -172,18 +171,18 @@ bool LabelPainter::isFree(const LabelBox& box) const {
   return std::none_of(taken_.begin(), taken_.end(), [&](const LabelBox& other) { return other.intersects(box); });
 }
 
-QPointF LabelPainter::regionAnchor(const ObjectPtr& region) {
-  if (view_.rect().contains(view_.toPixels(region->bounds))) return view_.toPixel(points_.of(region));
+QPointF LabelPainter::regionAnchor(const ObjectPtr& region, QSizeF label) {
+  const std::vector<QPolygonF> rings = pixelParts(*region, paths_.of(region, level_), view_);
+  const QSizeF room = label.isEmpty() ? label : label + QSizeF(2 * kBorderGap, 0);
+  if (view_.rect().contains(view_.toPixels(region->bounds))) {
+    return roomForLabel(rings, view_.toPixel(points_.of(region)), room);
+  }
   std::vector<QPolygonF> seen;
-  for (const QPolygonF& ring : pixelParts(*region, paths_.of(region, level_), view_)) {
-    if (QPolygonF inside = clippedRing(ring, view_.rect()); inside.size() > 3) {
-      for (QPointF& p : inside) p.rx() /= kBreadth;
-      seen.push_back(std::move(inside));
-    }
+  for (const QPolygonF& ring : rings) {
+    if (QPolygonF inside = clippedRing(ring, view_.rect()); inside.size() > 3) seen.push_back(std::move(inside));
   }
   if (seen.empty()) return {std::numeric_limits<double>::quiet_NaN(), 0};
-  const QPointF best = labelPoint(seen, kPixelPrecision);
-  return {best.x() * kBreadth, best.y()};
+  return roomForLabel(seen, labelPoint(seen, kPixelPrecision), room);
 }
 
 LabelPainter::Anchor LabelPainter::lineAnchor(const ObjectPtr& line, double width) {
@@ -193,13 +192,13 @@ LabelPainter::Anchor LabelPainter::lineAnchor(const ObjectPtr& line, double widt
   return {place->at, place->degrees};
 }
 
-LabelPainter::Anchor LabelPainter::anchorOf(const LabelCandidate& candidate, double width) {
+LabelPainter::Anchor LabelPainter::anchorOf(const LabelCandidate& candidate, QSizeF label) {
   if (candidate.anchor) return {view_.toPixel(*candidate.anchor), 0};
   switch (candidate.object->kind) {
     case MapObject::Kind::region:
-      return {regionAnchor(candidate.object), 0};
+      return {regionAnchor(candidate.object, label), 0};
     case MapObject::Kind::polyline:
-      return lineAnchor(candidate.object, width);
+      return lineAnchor(candidate.object, label.width());
     default:
       return {view_.toPixel(candidate.object->points.front()), 0};
   }
@@ -224,7 +223,7 @@ void LabelPainter::paintLayer(const Layer& layer, std::vector<LabelCandidate> ca
     if (candidate.edited != nullptr && candidate.anchor) {
       LabelCandidate unmoved = candidate;
       unmoved.anchor = candidate.callout;
-      paintCallout(painter_, layer, *candidate.edited, taken_.back().bounds(), anchorOf(unmoved, 0).at);
+      paintCallout(painter_, layer, *candidate.edited, taken_.back().bounds(), anchorOf(unmoved, {0, 0}).at);
     }
   }
 }
@@ -236,7 +235,8 @@ bool LabelPainter::paintLabel(const Layer& layer, const LabelCandidate& candidat
   const double room = isRegion ? view_.toPixels(object.bounds).width() : std::numeric_limits<double>::max();
   const HaloText label = layOut(settings.font, text, room, view_.rect().width() - 2 * kEdge);
   const QSizeF size = label.size();
-  Anchor anchor = anchorOf(candidate, settings.parallel ? size.width() : 0);
+  const bool needsRoom = isRegion ? settings.position == kCentre : settings.parallel;
+  Anchor anchor = anchorOf(candidate, needsRoom ? size : QSizeF(0, 0));
   if (!view_.rect().contains(anchor.at)) return false;
   if (!settings.parallel) anchor.degrees = 0;
   if (candidate.edited != nullptr && candidate.edited->angle != 0) anchor.degrees = turnOf(candidate.edited->angle);

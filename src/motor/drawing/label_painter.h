@@ -17,8 +17,8 @@
 
 namespace motor {
 
-// The best points for labels, by object, in the map's coordinates: where a text, which is broader than high, has most
-// room inside a region. They cost too much to be found at every redraw.
+// The best points for labels, by object, in the map's coordinates: where a region's outline is farthest. They cost too
+// much to be found at every redraw.
 class LabelPoints {
  public:
   [[nodiscard]] Point of(const ObjectPtr& region);
@@ -70,11 +70,11 @@ class LabelPainter {
   };
   // Whether the label found a place, which then is the last of `taken_`.
   bool paintLabel(const Layer& layer, const LabelCandidate& candidate, const QString& text);
-  // Of a label of that width; not finite when nothing of the object is seen.
-  [[nodiscard]] Anchor anchorOf(const LabelCandidate& candidate, double width);
+  // Of a label of that size; not finite when nothing of the object is seen.
+  [[nodiscard]] Anchor anchorOf(const LabelCandidate& candidate, QSizeF label);
   [[nodiscard]] Anchor lineAnchor(const ObjectPtr& line, double width);
   // Where the label of a region goes in pixels: inside the part of it that is seen. Not finite when nothing is.
-  [[nodiscard]] QPointF regionAnchor(const ObjectPtr& region);
+  [[nodiscard]] QPointF regionAnchor(const ObjectPtr& region, QSizeF label);
   [[nodiscard]] bool isFree(const LabelBox& box) const;
 
   QPainter& painter_;

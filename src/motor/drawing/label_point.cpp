@@ -50,6 +50,32 @@ struct Square {
   bool operator<(const Square& other) const { return bound < other.bound; }
 };
 
+// From where to where a row around `x` lies inside the rings; the whole row where x is not inside.
+struct Span {
+  double left = -std::numeric_limits<double>::max();
+  double right = std::numeric_limits<double>::max();
+};
+
+Span spanAround(const std::vector<QPolygonF>& rings, double x, double y) {
+  Span span;
+  bool isInside = false;
+  for (const QPolygonF& ring : rings) {
+    for (qsizetype i = 1; i < ring.size(); ++i) {
+      const QPointF a = ring[i - 1];
+      const QPointF b = ring[i];
+      if ((a.y() > y) == (b.y() > y)) continue;
+      const double crossing = (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()) + a.x();
+      if (x < crossing) {
+        isInside = !isInside;
+        span.right = std::min(span.right, crossing);
+      } else {
+        span.left = std::max(span.left, crossing);
+      }
+    }
+  }
+  return isInside ? span : Span();
+}
+
 }  // namespace
 
 QPointF labelPoint(const std::vector<QPolygonF>& rings, double precision) {
@@ -78,6 +104,17 @@ QPointF labelPoint(const std::vector<QPolygonF>& rings, double precision) {
     }
   }
   return best.centre;
+}
+
+QPointF roomForLabel(const std::vector<QPolygonF>& rings, QPointF point, QSizeF label) {
+  Span room;
+  for (const double row : {-0.5, 0.0, 0.5}) {
+    const Span span = spanAround(rings, point.x(), point.y() + row * label.height());
+    room = {std::max(room.left, span.left), std::min(room.right, span.right)};
+  }
+  const double least = room.left + label.width() / 2;
+  const double most = room.right - label.width() / 2;
+  return {least <= most ? std::clamp(point.x(), least, most) : (least + most) / 2, point.y()};
 }
 
 }  // namespace motor

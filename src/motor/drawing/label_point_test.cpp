@@ -10,6 +10,33 @@
 namespace motor {
 namespace {
 
+// Ten wide, with a notch of three from the left at its middle.
+const QPolygonF kNotched{{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 6}, {3, 5}, {0, 4}, {0, 0}};
+
+TEST(RoomForLabel, MovesALabelSidewaysIntoItsRegion) {
+  struct Case {
+    QPointF point;
+    QSizeF label;
+    double x;
+  };
+  for (const Case& c : {Case{{5, 2}, {4, 1}, 5},      // has room
+                        Case{{1, 2}, {4, 1}, 2},      // from the left edge
+                        Case{{9, 2}, {4, 1}, 8},      // from the right one
+                        Case{{5, 5}, {6, 1}, 6},      // off the notch
+                        Case{{5, 5}, {12, 1}, 6.5},   // as far out on either side
+                        Case{{5, 9.8}, {4, 1}, 5},    // a row below the region says nothing
+                        Case{{5, 20}, {4, 1}, 5}}) {  // outside
+    const QPointF centre = roomForLabel({kNotched}, c.point, c.label);
+    EXPECT_NEAR(centre.x(), c.x, 1e-9) << c.point.x() << "," << c.point.y() << " " << c.label.width();
+    EXPECT_EQ(centre.y(), c.point.y());
+  }
+}
+
+TEST(RoomForLabel, KeepsOffHoles) {
+  const QPolygonF hole{{4, 1}, {6, 1}, {6, 3}, {4, 3}, {4, 1}};
+  EXPECT_NEAR(roomForLabel({kNotched, hole}, {3, 2}, {3, 1}).x(), 2.5, 1e-9);
+}
+
 TEST(LabelPoint, IsFoundInARegionThatIsHardlyWide) {
   const QPointF least(4.5e6, 4.5e6);
   const QPointF most(std::nextafter(4.5e6, 5e6), 4.5e6 + 1000);
