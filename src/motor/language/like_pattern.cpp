@@ -19,11 +19,6 @@ bool isAscii(std::string_view s) {
   return std::all_of(s.begin(), s.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-std::u32string folded(std::string_view s) {
-  if (isAscii(s)) return text::decode(text::lower(s));
-  return text::decode(text::lower(text::withoutAccents(text::compose(s))));
-}
-
 Place placeOf(char32_t c) {
   if (c == U'%') return {Place::Kind::any, 0};
   if (c == U'_') return {Place::Kind::one, 0};
@@ -59,10 +54,17 @@ bool matchesPlaces(const std::u32string& text, std::size_t places, const PlaceAt
 
 }  // namespace
 
-LikePattern::LikePattern(std::string_view pattern) : pattern_(folded(pattern)) {}
+std::u32string foldedForLike(std::string_view s) {
+  if (isAscii(s)) return text::decode(text::lower(s));
+  return text::decode(text::lower(text::withoutAccents(text::compose(s))));
+}
 
-bool LikePattern::matches(std::string_view subject) const {
-  return matchesPlaces(folded(subject), pattern_.size(), [this](std::size_t i) { return placeOf(pattern_[i]); });
+LikePattern::LikePattern(std::string_view pattern) : pattern_(foldedForLike(pattern)) {}
+
+bool LikePattern::matches(std::string_view subject) const { return matchesFolded(foldedForLike(subject)); }
+
+bool LikePattern::matchesFolded(const std::u32string& subject) const {
+  return matchesPlaces(subject, pattern_.size(), [this](std::size_t i) { return placeOf(pattern_[i]); });
 }
 
 bool likeExactly(std::string_view subject, std::string_view pattern, std::string_view escape) {

@@ -5,6 +5,9 @@
 
 namespace motor {
 
+// A text as the operator Like compares it: without case and accents.
+[[nodiscard]] std::u32string foldedForLike(std::string_view text);
+
 // A pattern of the operator Like: % stands for any run of characters, _ for one character; case and accents do not
 // count.
 class LikePattern {
@@ -12,6 +15,8 @@ class LikePattern {
   explicit LikePattern(std::string_view pattern);
 
   [[nodiscard]] bool matches(std::string_view text) const;
+  // The same of a text that is folded already.
+  [[nodiscard]] bool matchesFolded(const std::u32string& text) const;
 
  private:
   std::u32string pattern_;

@@ -51,12 +51,15 @@ class Planner {
     if (operation == nullptr) return std::nullopt;
     if (spatialRelation(operation->op())) return rowsOfRelation(*operation);
     const auto condition = conditionOf(*operation);
-    if (!condition || condition->op != Operator::equal) return std::nullopt;
-    if (condition->column.kind == RowBinding::Kind::rowId) return rowNumbered(condition->constant);
+    if (!condition) return std::nullopt;
+    if (condition->column.kind == RowBinding::Kind::rowId) {
+      return condition->op == Operator::equal ? rowNumbered(condition->constant) : std::nullopt;
+    }
     const bool isIndexed = condition->column.kind == RowBinding::Kind::column &&
                            condition->constant.text() != nullptr && source_.base != nullptr &&
                            source_.base->textColumn(condition->column.column) != nullptr;
     if (!isIndexed) return std::nullopt;
+    if (condition->op != Operator::equal) return rowsOfTexts(*condition);
     return source_.base->rowsEqual(condition->column.column, *condition->constant.text());
   }
 
@@ -133,6 +136,24 @@ class Planner {
     std::erase_if(rows, [this](RowId row) { return source_.table->isDeleted(row); });
     std::sort(rows.begin(), rows.end());
     return rows;
+  }
+
+  // Where texts repeat: each text is tested once, and the index knows the rows of those that pass.
+  std::optional<std::vector<RowId>> rowsOfTexts(const ColumnCondition& condition) const {
+    constexpr std::size_t kRowsOfText = 8;  // from so many on, texts repeat
+    constexpr std::size_t kFewRows = 16;    // one of so many
+    const TextColumn& column = *source_.base->textColumn(condition.column.column);
+    const std::vector<std::string>& texts = column.dictionary();
+    const std::size_t rows = column.codes().size();
+    if (texts.size() * kRowsOfText > rows) return std::nullopt;
+    const std::string& constant = *condition.constant.text();
+    const LikePattern pattern(condition.op == Operator::like ? constant : "");
+    std::vector<bool> passes(texts.size());
+    for (std::size_t code = 0; code < texts.size(); ++code) {
+      passes[code] = condition.op == Operator::like ? pattern.matchesFolded(column.foldedForLike()[code])
+                                                    : passesText(texts[code], condition.op, constant, pattern);
+    }
+    return column.rowsMarked(passes, rows / kFewRows);
   }
 
   // Tests each text that is met once, then only its code.

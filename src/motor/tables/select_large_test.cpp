@@ -49,6 +49,28 @@ TEST_F(LargeSelectTest, looksSetsUp) {
   EXPECT_EQ(rowsOf("select * from grande where nombre in (" + list + ")"), kRows / 2);
 }
 
+// The index answers where few rows pass, a look at each row where many do: both alike.
+TEST_F(LargeSelectTest, comparesRepeatedTextsOnce) {
+  TableBuilder repeated({"Nombre", "Valor"});
+  for (int i = 0; i < 1600; ++i) repeated.row({i % 2 == 0 ? "Zona " + std::to_string(i % 80) : "Árbol", i});
+  repeated.row({"ZONA 2", 1600}).row({"zona 20 ", 1601}).deletedRow();
+  session_.open("Zonas", repeated.build());
+  struct Case {
+    const char* where;
+    RowId rows;
+  };
+  const Case cases[] = {
+      {"nombre like \"zoná 20%\"", 21}, {"nombre like \"zona 2%\"", 6 * 20 + 2},
+      {"nombre like \"arbol\"", 800},   {"nombre like \"Á%\" and valor<10", 5},
+      {"nombre <> \"Árbol\"", 802},     {"nombre > \"Zona 77\"", 40},
+      {"nombre <= \"Árbol\"", 800},     {"nombre like \"nada%\"", 0},
+      {"\"zona 2\" = nombre", 21},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(rowsOf("select * from zonas where " + std::string(c.where)), c.rows) << c.where;
+  }
+}
+
 TEST_F(LargeSelectTest, joinsWhatPasses) {
   const std::string join = "select valor from grande, otra where ";
   EXPECT_EQ(rowsOf(join + "grande.nombre=otra.nombre"), kRows - 1);

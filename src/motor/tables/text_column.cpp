@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <numeric>
 
 #include "motor/language/comparison.h"
+#include "motor/language/like_pattern.h"
 #include "text/collation.h"
 
 namespace motor {
@@ -55,7 +57,7 @@ const std::vector<TextColumn::Code>& TextColumn::equalityClasses() const {
   return classes_;
 }
 
-const std::vector<RowId>& TextColumn::rowsEqual(std::string_view s) const {
+const std::vector<std::vector<RowId>>& TextColumn::rowsByClass() const {
   const std::vector<Code>& classes = equalityClasses();
   if (rowsByClass_.empty()) {
     rowsByClass_.resize(dictionary_.size());
@@ -63,8 +65,42 @@ const std::vector<RowId>& TextColumn::rowsEqual(std::string_view s) const {
       if (codes_[i] != kAbsent) rowsByClass_[classes[codes_[i]]].push_back(static_cast<RowId>(i + 1));
     }
   }
+  return rowsByClass_;
+}
+
+const std::vector<RowId>& TextColumn::rowsEqual(std::string_view s) const {
+  const std::vector<std::vector<RowId>>& rows = rowsByClass();
   const auto found = classByFolded_.find(foldedForEquality(s));
-  return found == classByFolded_.end() ? kNoRows : rowsByClass_[found->second];
+  return found == classByFolded_.end() ? kNoRows : rows[found->second];
+}
+
+std::optional<std::vector<RowId>> TextColumn::rowsMarked(const std::vector<bool>& isMarked, std::size_t most) const {
+  const std::vector<Code>& classes = equalityClasses();
+  const std::vector<std::vector<RowId>>& rows = rowsByClass();
+  std::vector<Code> leaders;
+  for (std::size_t code = 0; code < isMarked.size(); ++code) {
+    if (isMarked[code]) leaders.push_back(classes[code]);
+  }
+  std::sort(leaders.begin(), leaders.end());
+  leaders.erase(std::unique(leaders.begin(), leaders.end()), leaders.end());
+  std::size_t count = 0;
+  for (const Code leader : leaders) count += rows[leader].size();
+  if (count > most) return std::nullopt;
+  std::vector<RowId> marked;
+  marked.reserve(count);
+  for (const Code leader : leaders) {
+    std::copy_if(rows[leader].begin(), rows[leader].end(), std::back_inserter(marked),
+                 [&](RowId row) { return isMarked[code(row)]; });
+  }
+  std::sort(marked.begin(), marked.end());
+  return marked;
+}
+
+const std::vector<std::u32string>& TextColumn::foldedForLike() const {
+  for (std::size_t code = foldedForLike_.size(); code < dictionary_.size(); ++code) {
+    foldedForLike_.push_back(motor::foldedForLike(dictionary_[code]));
+  }
+  return foldedForLike_;
 }
 
 const std::vector<std::uint32_t>& TextColumn::ranks() const {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -33,6 +34,11 @@ class TextColumn {
   [[nodiscard]] const std::vector<Code>& equalityClasses() const;
   // The rows whose text equals `text` (see foldedForEquality), ascending.
   [[nodiscard]] const std::vector<RowId>& rowsEqual(std::string_view text) const;
+  // The rows of the codes that are marked, ascending; none where they are more than `most`, which a look at each row
+  // finds as quickly. `isMarked` is by code.
+  [[nodiscard]] std::optional<std::vector<RowId>> rowsMarked(const std::vector<bool>& isMarked, std::size_t most) const;
+  // By code: the text as the operator Like compares it.
+  [[nodiscard]] const std::vector<std::u32string>& foldedForLike() const;
   // By code: the text's place in the Spanish order, from 0; texts that compare equal share one.
   [[nodiscard]] const std::vector<std::uint32_t>& ranks() const;
 
@@ -43,6 +49,8 @@ class TextColumn {
   };
   using CodeByText = std::unordered_map<std::string, Code, TextHash, std::equal_to<>>;
 
+  [[nodiscard]] const std::vector<std::vector<RowId>>& rowsByClass() const;
+
   std::vector<Code> codes_;
   std::vector<std::string> dictionary_;
   CodeByText codeByText_;
@@ -52,6 +60,7 @@ class TextColumn {
   mutable std::vector<Code> classes_;                    // by code
   mutable std::vector<std::vector<RowId>> rowsByClass_;  // by code; filled for class leaders only
   mutable std::vector<std::uint32_t> ranks_;
+  mutable std::vector<std::u32string> foldedForLike_;
 };
 
 }  // namespace motor

@@ -49,6 +49,17 @@ TEST(TextColumnTest, indexesFollowWhatIsAppended) {
   EXPECT_EQ(column.rowsEqual("b"), (std::vector<RowId>{2, 3}));
 }
 
+TEST(TextColumnTest, findsTheRowsOfMarkedTexts) {
+  TextColumn column = columnOf({"Ávila", "Burgos", "ÁVILA", "Ñuble", "Burgos"});
+  column.appendAbsent();
+  column.append("Ávila");
+  EXPECT_EQ(column.rowsMarked({true, false, false, false}, 9), (std::vector<RowId>{1, 7})) << "not the other spelling";
+  EXPECT_EQ(column.rowsMarked({true, true, true, false}, 9), (std::vector<RowId>{1, 2, 3, 5, 7}));
+  EXPECT_EQ(column.rowsMarked({true, true, true, false}, 4), std::nullopt);
+  EXPECT_EQ(column.rowsMarked({false, false, false, false}, 0), std::vector<RowId>());
+  EXPECT_EQ(column.foldedForLike()[2], U"avila");
+}
+
 TEST(TextColumnTest, ranksFollowTheSpanishOrder) {
   const TextColumn column = columnOf({"Zamora", "Ávila", "ñandú", "avión", "nube", "oca"});
   EXPECT_EQ(column.ranks(), (std::vector<std::uint32_t>{5, 0, 3, 1, 2, 4}));

@@ -15,17 +15,33 @@ constexpr QColor kLine(232, 89, 12);
 constexpr double kEdgeWidth = 4.6;
 constexpr double kLineWidth = 2.2;
 constexpr int kFewPoints = 3000;  // as many are marked anew in no time
+constexpr int kFewEdged = 900;    // as many get a light edge, which sets them off from what is below
+constexpr int kFewRounded = 120;  // as many get round corners, which take longest
 
 bool shows(const Map& map, const TablePtr& table) {
   return std::any_of(map.layers.begin(), map.layers.end(),
                      [&](const Layer& layer) { return layer.table == table && layer.isDrawnAt(map.zoomMetres); });
 }
 
-void mark(QPainter& painter, const QPainterPath& outline) {
+int elementCount(const std::vector<QPainterPath>& outlines) {
+  int count = 0;
+  for (const QPainterPath& outline : outlines) count += outline.elementCount();
+  return count;
+}
+
+// Each outline is stroked on its own: the toolkit takes many times longer for one path that is spread over the window.
+void mark(QPainter& painter, const std::vector<QPainterPath>& outlines) {
+  const int elements = elementCount(outlines);
+  const bool areRound = elements <= kFewRounded;
+  const auto stroke = [&](const QColor& colour, double width) {
+    const QPen pen(colour, width, Qt::SolidLine, areRound ? Qt::RoundCap : Qt::FlatCap,
+                   areRound ? Qt::RoundJoin : Qt::BevelJoin);
+    for (const QPainterPath& outline : outlines) painter.strokePath(outline, pen);
+  };
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.strokePath(outline, QPen(kEdge, kEdgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.strokePath(outline, QPen(kLine, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  if (elements <= kFewEdged) stroke(kEdge, kEdgeWidth);
+  stroke(kLine, kLineWidth);
   painter.restore();
 }
 
@@ -51,13 +67,13 @@ bool SelectionLight::findObjects(const MapWindow& window) {
   return objects_ != before;
 }
 
-QPainterPath SelectionLight::outline(const MapView& view, double devicePixelRatio) {
+std::vector<QPainterPath> SelectionLight::outlines(const MapView& view, double devicePixelRatio) {
   const Box seen = reachOf(view);
-  QPainterPath path;
+  std::vector<QPainterPath> paths;
   for (const ObjectPtr& object : objects_) {
-    if (object->bounds.intersects(seen)) path.addPath(outlines_.of(object, view, devicePixelRatio));
+    if (object->bounds.intersects(seen)) paths.push_back(outlines_.of(object, view, devicePixelRatio));
   }
-  return path;
+  return paths;
 }
 
 void SelectionLight::paint(QPainter& painter, const MapWindow& window, const MapView& view, double devicePixelRatio,
@@ -69,13 +85,13 @@ void SelectionLight::paint(QPainter& painter, const MapWindow& window, const Map
   const bool isGood = !marks_.isNull() && shown == shown_ && marks_.size() == pixels;
   if (!isGood && (marks_.isNull() || !moving)) {
     marks_ = {};
-    const QPainterPath path = outline(view, devicePixelRatio);
-    if (path.elementCount() <= kFewPoints) return mark(painter, path);
+    const std::vector<QPainterPath> paths = outlines(view, devicePixelRatio);
+    if (elementCount(paths) <= kFewPoints) return mark(painter, paths);
     marks_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     marks_.setDevicePixelRatio(devicePixelRatio);
     marks_.fill(Qt::transparent);
     QPainter marksPainter(&marks_);
-    mark(marksPainter, path);
+    mark(marksPainter, paths);
     shown_ = shown;
   }
   shown == shown_ ? painter.drawImage(QPointF(0, 0), marks_) : painter.drawImage(view.toPixels(shown_), marks_);

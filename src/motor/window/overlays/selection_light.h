@@ -22,7 +22,7 @@ class SelectionLight {
  private:
   // Tells whether they are others than before.
   bool findObjects(const MapWindow& window);
-  [[nodiscard]] QPainterPath outline(const MapView& view, double devicePixelRatio);
+  [[nodiscard]] std::vector<QPainterPath> outlines(const MapView& view, double devicePixelRatio);
 
   ObjectOutlines outlines_;
   std::shared_ptr<const ResultTable> selection_;
