@@ -12,6 +12,7 @@
 #include "hosts/desktop/rehearsal.h"
 #include "hosts/desktop/spanish_words.h"
 #include "hosts/desktop/theme.h"
+#include "hosts/desktop/toolkit_dialogs.h"
 #include "platform/paths.h"
 
 namespace desktop {
@@ -51,6 +52,7 @@ void prepareApplication(QApplication& application) {
   }
   QApplication::installTranslator(new SpanishWords(&application));
   application.installEventFilter(new ProposedPrintFiles(&application));
+  application.installEventFilter(new ToolkitDialogs(&application));
   theme::install(application);
 }
 

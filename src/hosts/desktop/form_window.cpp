@@ -9,6 +9,7 @@
 
 #include "hosts/desktop/artwork.h"
 #include "hosts/desktop/focus_order.h"
+#include "hosts/desktop/palette_front.h"
 #include "hosts/desktop/panes.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
@@ -49,6 +50,7 @@ FormWindow::FormWindow(forms::Form& form, ProgramCalls& calls, QWidget* owner)
   setMouseTracking(true);
   if (look_ == FormLook::splash) setAttribute(Qt::WA_TranslucentBackground);
   makeViews();
+  if (look_ == FormLook::palette) new PaletteFront(*this);  // owned by this
 }
 
 FormWindow::~FormWindow() { views_.clear(); }

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPaintEvent>
 #include <QTreeWidget>
 #include <QWheelEvent>
 
@@ -112,6 +113,29 @@ TEST_F(Mouse, ADoubleClickOpensAndClosesABranch) {
   EXPECT_TRUE(unit.expanded());
   doubleClick(*tree.viewport(), at);
   EXPECT_FALSE(unit.expanded());
+}
+
+// Notes what of a widget is painted.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+  QRegion region;
+};
+
+TEST_F(Mouse, TheWholeBorderOfAComboFollowsThePointer) {
+  for (forms::Control* control : std::initializer_list<forms::Control*>{&form.drop, &form.combo}) {
+    QWidget& combo = widget(*control);
+    hands::settle();
+    Painted painted(combo);
+    QEvent left(QEvent::Leave);  // alone, as while a menu is open
+    QCoreApplication::sendEvent(&combo, &left);
+    hands::settle();
+    EXPECT_EQ(painted.region, QRegion(combo.rect())) << control->name();
+  }
 }
 
 }  // namespace

@@ -4,8 +4,12 @@
 #include <QFile>
 #include <QPainter>
 #include <QPalette>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QStyleFactory>
 #include <array>
+
+#include "hosts/desktop/drawn_size.h"
 
 static void initArtwork() { Q_INIT_RESOURCE(artwork); }
 
@@ -24,12 +28,46 @@ constexpr std::array kTokens{
     Token{"@accent", kAccent},
 };
 
+// Lengths beyond those of borders follow the size at which the program draws itself.
+QString scaledSheet(const QString& sheet) {
+  constexpr int kBorder = 2;
+  static const QRegularExpression kLength(QStringLiteral("(\\d+)px"));
+  QString result;
+  qsizetype done = 0;
+  for (auto at = kLength.globalMatch(sheet); at.hasNext();) {
+    const QRegularExpressionMatch match = at.next();
+    const int length = match.captured(1).toInt();
+    result += sheet.mid(done, match.capturedStart() - done);
+    result += QString::number(length <= kBorder ? length : scaled(length)) + QLatin1String("px");
+    done = match.capturedEnd();
+  }
+  return result + sheet.mid(done);
+}
+
 QString styleSheet() {
   QFile file(QStringLiteral(":/veldoria.qss"));
   if (!file.open(QIODevice::ReadOnly)) return {};
   QString sheet = QString::fromUtf8(file.readAll());
   for (const Token& token : kTokens) sheet.replace(QLatin1String(token.name), token.color.name());
-  return sheet;
+  return scaledSheet(sheet);
+}
+
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+
+QFont fontOf(const forms::FontSpec& spec, double pixelsPerPoint) {
+  QFont font(QString::fromStdString(spec.name));
+  font.setPixelSize(qMax(1, qRound(spec.points * pixelsPerPoint)));
+  font.setBold(spec.bold);
+  return font;
+}
+
+// The same letters with a size in points, which the toolkit's own dialogs reckon with.
+QFont inPoints(QFont font) {
+  constexpr double kPointsPerInch = 72;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return font;
+  font.setPointSizeF(font.pixelSize() * kPointsPerInch / screen->logicalDotsPerInchY());
+  return font;
 }
 
 QPalette palette() {
@@ -62,17 +100,13 @@ void install(QApplication& application) {
                              {QStringLiteral("DejaVu Sans Condensed"), QStringLiteral("DejaVu Sans")});
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(palette());
-  QApplication::setFont(font({.name = "Verdana", .points = 9}));
+  QApplication::setFont(inPoints(font({.name = "Verdana", .points = 9})));
   application.setStyleSheet(styleSheet());
 }
 
-QFont font(const forms::FontSpec& spec) {
-  constexpr double kPixelsPerPoint = 96.0 / 72.0;
-  QFont font(QString::fromStdString(spec.name));
-  font.setPixelSize(qMax(1, qRound(spec.points * kPixelsPerPoint)));
-  font.setBold(spec.bold);
-  return font;
-}
+QFont font(const forms::FontSpec& spec) { return fontOf(spec, scaled(kPixelsPerPoint)); }
+
+QFont paperFont(const forms::FontSpec& spec) { return fontOf(spec, kPixelsPerPoint); }
 
 QColor color(forms::Color value) { return {value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF}; }
 

@@ -30,6 +30,9 @@ void install(QApplication& application);
 // The font in logical pixels: the same size on every desktop, whatever its own idea of a point.
 [[nodiscard]] QFont font(const forms::FontSpec& spec);
 
+// The same for paper, whose size no screen has a say in.
+[[nodiscard]] QFont paperFont(const forms::FontSpec& spec);
+
 [[nodiscard]] QColor color(forms::Color value);
 
 // A ring around something that has the keyboard.

@@ -1,5 +1,6 @@
 #include "hosts/desktop/window_placement.h"
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/twips.h"
 
 namespace desktop {
@@ -13,13 +14,13 @@ constexpr int kPaletteMargin = 8;  // right of its controls and below them
 
 }  // namespace
 
-QSize smallestSize(FormLook look) { return look == FormLook::window ? kSmallestWindow : QSize(0, 0); }
+QSize smallestSize(FormLook look) { return look == FormLook::window ? scaled(kSmallestWindow) : QSize(0, 0); }
 
 QRect firstPlace(FormLook look, QSize stored, const QRect& screen) {
   QSize size = stored;
   if (look == FormLook::window) {
     size = stored.expandedTo(screen.size() * kShareOfScreen).boundedTo(screen.size() - kUsualFrame);
-    size = size.expandedTo(kSmallestWindow);
+    size = size.expandedTo(scaled(kSmallestWindow));
   }
   QRect place(QPoint(), size);
   place.moveCenter(screen.center());
@@ -33,7 +34,7 @@ QSize paletteSize(const forms::Form& palette) {
   for (const forms::Control* control : palette.controls()) {
     if (control->container() == nullptr) controls |= pixelRect(*control);
   }
-  return {controls.right() + 1 + kPaletteMargin, controls.bottom() + 1 + kPaletteMargin};
+  return {controls.right() + 1 + scaled(kPaletteMargin), controls.bottom() + 1 + scaled(kPaletteMargin)};
 }
 
 QPoint onScreen(QPoint wanted, QSize withFrame, const QRect& screen) {
@@ -42,9 +43,9 @@ QPoint onScreen(QPoint wanted, QSize withFrame, const QRect& screen) {
 }
 
 double scaleFor(QSize screen) {
-  const QSize needed = kSmallestWindow + kUsualFrame;
-  const double across = static_cast<double>(screen.width()) / needed.width();
-  const double down = static_cast<double>(screen.height()) / needed.height();
+  const QSize room = screen - kUsualFrame;
+  const double across = static_cast<double>(room.width()) / kSmallestWindow.width();
+  const double down = static_cast<double>(room.height()) / kSmallestWindow.height();
   return qBound(kSmallestScale, qMin(across, down), 1.0);
 }
 

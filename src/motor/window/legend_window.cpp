@@ -10,13 +10,14 @@ namespace motor {
 
 namespace {
 
+constexpr int kTitleRoom = 170;  // pixels that a title bar needs to show the title beside its buttons
 constexpr QSize kFrame(12, 42);  // pixels that a window's frame takes at most, while it is not known yet
 
 }  // namespace
 
 void LegendSheet::setLegend(Legend legend) {
   legend_ = std::move(legend);
-  setFixedSize(legend_.size());
+  setFixedSize(legend_.size().expandedTo({kTitleRoom, 0}));
   update();
 }
 
@@ -28,7 +29,7 @@ void LegendSheet::paintEvent(QPaintEvent*) {
 
 LegendWindow::LegendWindow(MapWindow& window, QWidget* parent)
     : QScrollArea(parent), window_(window), sheet_(new LegendSheet) {
-  setWindowFlags(Qt::Tool);
+  setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   setWindowTitle(QStringLiteral("Leyenda"));
   setAccessibleName(QStringLiteral("Leyenda"));
   setFrameShape(QFrame::NoFrame);

@@ -8,7 +8,7 @@
 
 namespace motor {
 
-// A legend as a widget of its size.
+// A legend as a widget of its size, or as wide as the title of its window asks for.
 class LegendSheet : public QWidget {
  public:
   void setLegend(Legend legend);

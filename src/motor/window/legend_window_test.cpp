@@ -16,6 +16,8 @@ TEST_F(LegendWindows, TheLegendHasAWindowOfItsOwn) {
   ASSERT_NE(legend, nullptr);
   EXPECT_EQ(legend->windowTitle(), "Leyenda");
   EXPECT_TRUE(legend->isVisible());
+  EXPECT_FALSE(legend->windowFlags().testAnyFlags(Qt::WindowMinMaxButtonsHint));
+  EXPECT_GE(legend->width(), 170) << "the title has room beside the buttons";
   windows_.hideLegend();
   EXPECT_EQ(frame.findChild<LegendWindow*>(), nullptr);
 }

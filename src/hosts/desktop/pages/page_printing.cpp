@@ -32,7 +32,7 @@ void layOut(QTextDocument& document, const QByteArray& page, double width) {
   option.setWrapMode(QTextOption::WordWrap);
   option.setUseDesignMetrics(true);
   document.setDefaultTextOption(option);
-  document.setDefaultFont(theme::font({.name = "Verdana", .points = 9}));
+  document.setDefaultFont(theme::paperFont({.name = "Verdana", .points = 9}));
   document.setHtml(readPage(page).html);
   QTextFrameFormat format = document.rootFrame()->frameFormat();
   format.setMargin(0);
@@ -65,7 +65,7 @@ void keepNamesWithTables(QTextDocument& document) {
 }
 
 void paintFoot(QPainter& painter, const QRectF& place, const QString& name, int number, int numbers) {
-  QFont font = theme::font({.name = "Verdana", .points = 8});
+  QFont font = theme::paperFont({.name = "Verdana", .points = 8});
   font.setPixelSize(static_cast<int>(kFootFont));
   painter.setFont(font);
   painter.setPen(theme::kMuted);

@@ -33,6 +33,7 @@ QMessageBox::Icon iconOf(int style) {
 
 platform::Button QtMessages::show(const std::string& text, int style, const std::string& title) {
   QMessageBox box(host_.frontWindow());
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
   box.setWindowTitle(QString::fromStdString(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(QString::fromStdString(text));

@@ -20,6 +20,12 @@ class Combo : public QComboBox {
   explicit Combo(QWidget& parent) : QComboBox(&parent) { setFocusPolicy(Qt::StrongFocus); }
 
  protected:
+  // Its border tells that the pointer is on it, also where it has left while a list or a menu was open: then the
+  // toolkit paints nothing anew.
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) update();
+    return QComboBox::event(event);
+  }
   void wheelEvent(QWheelEvent* event) override {
     if (!hasFocus()) return event->ignore();
     event->accept();

@@ -8,6 +8,7 @@
 #include <QPolygonF>
 #include <QStyledItemDelegate>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/keyboard_focus.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/views/context_menu.h"
@@ -35,7 +36,7 @@ class IndicatorDelegate : public QStyledItemDelegate {
 
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const Layout layout = layoutOf(option, index);
-    const int width = tree_.viewport()->width() - kIndentation * (depthOf(index) + 1);
+    const int width = tree_.viewport()->width() - scaled(kIndentation) * (depthOf(index) + 1);
     const QFontMetrics metrics(layout.font);
     const int height =
         metrics.boundingRect(0, 0, textWidth(layout, width), kUnlimited, kBroken, layout.parts.text).height();
@@ -120,7 +121,7 @@ IndicatorText splitIndicator(const QString& nodeText) {
 IndicatorTree::IndicatorTree(QWidget& parent) : QTreeWidget(&parent) {
   setHeaderHidden(true);
   setColumnCount(1);
-  setIndentation(kIndentation);
+  setIndentation(scaled(kIndentation));
   setUniformRowHeights(false);
   setMouseTracking(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -207,7 +208,7 @@ void IndicatorTree::contextMenuEvent(QContextMenuEvent* event) {
 
 void IndicatorTree::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const {
   if (!model()->hasChildren(index)) return;
-  const QRect mark(rect.right() - kIndentation + 1, rect.top() + kPadding, kIndentation, fontMetrics().height());
+  const QRect mark(rect.right() - indentation() + 1, rect.top() + kPadding, indentation(), fontMetrics().height());
   const QPointF middle = QRectF(mark).center();
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);

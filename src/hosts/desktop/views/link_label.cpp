@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/views/text_fit.h"
 
@@ -41,7 +42,7 @@ void LinkLabel::setCaption(const QString& caption) {
 
 // A menu entry reaches down to the pop-up frame below it; its light stays a little inside.
 QRect LinkLabel::lightRect() const {
-  return look_ == LabelLook::menu ? rect().adjusted(0, kMenuInset, 0, -kMenuInset) : rect();
+  return look_ == LabelLook::menu ? rect().adjusted(0, scaled(kMenuInset), 0, -scaled(kMenuInset)) : rect();
 }
 
 void LinkLabel::paintEvent(QPaintEvent*) {
@@ -55,7 +56,7 @@ void LinkLabel::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(lightRect()), theme::kRadius, theme::kRadius);
   }
   const bool entry = look_ == LabelLook::menuEntry;
-  const QRect inside = entry ? rect().adjusted(kEntryInset, 0, -kEntryInset, 0) : rect();
+  const QRect inside = entry ? rect().adjusted(scaled(kEntryInset), 0, -scaled(kEntryInset), 0) : rect();
   const FittedText fitted = fitText(caption_, font(), inside.size());
   painter.setFont(fitted.font);
   painter.setPen(!isEnabled() ? theme::kMuted : lit ? colors.hoverText : colors.text);

@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/pick_list.h"
 
@@ -30,7 +31,7 @@ void ListBoxView::sync(forms::Property property) {
 
 void ListBoxView::showWholeRows() {
   const QRect place = pixelRect(list_);
-  const int lowest = rows_->parentWidget()->height() - kMargin;
+  const int lowest = rows_->parentWidget()->height() - scaled(kMargin);
   int height = rows_->heightOfRows(rows_->rowsIn(place.height()));
   if (place.top() + height > lowest) height = rows_->heightOfRows(rows_->rowsIn(place.height()) - 1);
   if (height > 0) rows_->resize(place.width(), height);

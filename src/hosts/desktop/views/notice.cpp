@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/views/text_fit.h"
 
@@ -21,7 +22,7 @@ void Notice::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF box = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
   painter.setPen(QPen(theme::kBorder, 1));
-  if (height() > kTallest) {
+  if (height() > scaled(kTallest)) {
     painter.fillRect(rect(), theme::kCard);
     return;
   }

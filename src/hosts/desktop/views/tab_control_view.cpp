@@ -2,6 +2,7 @@
 
 #include <QSignalBlocker>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/tab_pages.h"
 #include "hosts/desktop/views/tab_row.h"
@@ -28,7 +29,7 @@ TabControlView::TabControlView(forms::TabControl& tabs, QWidget& parent, Program
 void TabControlView::sync(forms::Property property) {
   if (property != forms::Property::Tab) {
     ControlView::sync(property);
-    if (widget() != nullptr) widget()->resize(widget()->width(), pixelRect(tabs_).height() + kSkirt);
+    if (widget() != nullptr) widget()->resize(widget()->width(), pixelRect(tabs_).height() + scaled(kSkirt));
     return;
   }
   const QSignalBlocker quiet(row_);

@@ -15,7 +15,7 @@ class TabPages : public QWidget {
 
   [[nodiscard]] TabRow* row() const { return row_; }
 
-  // The height of the headings in pixels.
+  // The usual height of the headings in pixels.
   static constexpr int kHeadingHeight = 26;
 
  protected:

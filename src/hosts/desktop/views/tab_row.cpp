@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/theme.h"
 
 namespace desktop {
@@ -35,7 +36,7 @@ QSize TabRow::tabSizeHint(int index) const {
     const int count = qMax(1, this->count());
     return {(width() * (index + 1)) / count - (width() * index) / count, height()};
   }
-  return {QFontMetrics(boldened(font())).horizontalAdvance(tabText(index)) + 2 * kPagePadding, height()};
+  return {QFontMetrics(boldened(font())).horizontalAdvance(tabText(index)) + 2 * scaled(kPagePadding), height()};
 }
 
 QSize TabRow::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
@@ -68,7 +69,7 @@ void TabRow::paintPage(QPainter& painter, int index) const {
     painter.setBrush(theme::kCard);
     painter.drawRoundedRect(box.adjusted(0, 0, 0, theme::kRadius), theme::kRadius, theme::kRadius);
     painter.setBrush(theme::kAccent);
-    const double inset = kPagePadding - 4;
+    const double inset = scaled(kPagePadding) - 4;
     painter.drawRoundedRect(QRectF(box.left() + inset, box.top(), box.width() - 2 * inset, kUnderline), 1.5, 1.5);
   } else if (index == hovered_) {
     painter.setPen(Qt::NoPen);

@@ -3,6 +3,8 @@
 #include <QFontMetrics>
 #include <QRect>
 
+#include "hosts/desktop/drawn_size.h"
+
 namespace desktop {
 namespace {
 
@@ -19,7 +21,7 @@ bool fits(const QString& text, const QFont& font, QSize box) {
 FittedText fitText(const QString& text, const QFont& font, QSize box) {
   FittedText result{font, text};
   while (!fits(text, result.font, box)) {
-    if (result.font.pixelSize() <= kSmallestPixels) {
+    if (result.font.pixelSize() <= scaled(kSmallestPixels)) {
       result.text = QFontMetrics(result.font).elidedText(text, Qt::ElideRight, box.width());
       result.isCut = result.text != text;
       return result;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "hosts/desktop/artwork.h"
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/focus_order.h"
 #include "hosts/desktop/theme.h"
 
@@ -74,7 +75,7 @@ void ToolButton::paintEvent(QPaintEvent*) {
     painter.setBrush(theme::kShade);
     painter.drawRoundedRect(box, kRounding, kRounding);
   }
-  const double side = qMin(kLargestIcon, qMin(width(), height()) - 2 * kInset);
+  const double side = qMin(scaled(kLargestIcon), qMin(width(), height()) - 2 * kInset);
   const QRectF icon(QPointF((width() - side) / 2, (height() - side) / 2), QSizeF(side, side));
   painter.setOpacity(isEnabled() ? 1 : 0.4);
   artwork::paint(painter, picture_, icon);

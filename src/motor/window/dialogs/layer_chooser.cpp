@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "motor/window/dialogs/answer_buttons.h"
+#include "motor/window/dialogs/layer_name.h"
 
 namespace motor {
 
@@ -28,7 +29,7 @@ LayerChooser::LayerChooser(MapWidget& map) : QDialog(&map), map_(&map), list_(ne
   const std::vector<Layer>& layers = map.mapWindow()->map().layers;
   for (std::size_t i = 0; i < layers.size(); ++i) {
     if (layers[i].theme || layers[i].display == Display::off) continue;
-    add(QString::fromStdString(layers[i].name), static_cast<int>(i));
+    add(layerName(layers[i]), static_cast<int>(i));
   }
   list_->setCurrentRow(0);
   connect(list_, &QListWidget::itemDoubleClicked, this, [this] { accept(); });

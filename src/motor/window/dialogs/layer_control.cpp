@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "motor/window/dialogs/answer_buttons.h"
+#include "motor/window/dialogs/layer_name.h"
 
 namespace motor {
 
@@ -30,7 +31,7 @@ LayerControl::LayerControl(MapWidget& map) : QDialog(&map), map_(&map), table_(n
 void LayerControl::addRow(const Layer& layer) {
   const int row = table_->rowCount();
   table_->insertRow(row);
-  auto* name = new QTableWidgetItem(QString::fromStdString(layer.name));
+  auto* name = new QTableWidgetItem(layerName(layer));
   name->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
   table_->setItem(row, kName, name);
   const auto add = [&](Column column, bool on, bool isOwn) {

@@ -2,6 +2,7 @@
 
 #include "motor/window/dialogs/layer_chooser.h"
 #include "motor/window/dialogs/layer_control.h"
+#include "motor/window/dialogs/layer_name.h"
 #include "motor/window/map_widget_fixture.h"
 
 namespace motor {
@@ -39,12 +40,24 @@ TEST_F(LayerDialogs, TheChosenLayerIsSeenWhole) {
   session_->run("select * from ZonasBasicas2001 where nombre=\"Lirio\"");
   session_->run("Add map layer Selection");
   LayerChooser& chooser = open<LayerChooser>(807);
-  ASSERT_EQ(chooser.list().item(1)->text(), "Query1");
+  ASSERT_EQ(chooser.list().item(1)->text(), "Selección");
   QTest::keyClick(&chooser.list(), Qt::Key_Down);
   QTest::keyClick(&chooser.list(), Qt::Key_Return);
   EXPECT_NEAR(map().centre.x, -3, 0.01);
   EXPECT_NEAR(map().centre.y, 40.5, 0.01);
   EXPECT_FALSE(map().visibleBox().contains({-6, 40}));
+}
+
+TEST_F(LayerDialogs, ALayerOfSelectedObjectsHasAUsersName) {
+  session_->run("select * from ZonasBasicas2001 where nombre=\"Lirio\"");
+  session_->run("Add map layer Selection");
+  EXPECT_EQ(map().layers[0].name, "Query1");
+  EXPECT_EQ(open<LayerControl>(801).table().item(0, LayerControl::kName)->text(), "Selección");
+  Layer layer;
+  for (const char* name : {"Queryable", "Query", "Query2b", "Zonas"}) {
+    layer.name = name;
+    EXPECT_EQ(layerName(layer), name);
+  }
 }
 
 TEST_F(LayerDialogs, EscapeChangesNothing) {

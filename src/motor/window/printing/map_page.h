@@ -43,6 +43,8 @@ class MapPage {
   // Paints on a page of this size from the painter's origin on; a pixel has so many of the device's.
   void paint(QPainter& painter, QSizeF page, double devicePixelRatio) const;
 
+  [[nodiscard]] const PageTexts& texts() const { return texts_; }
+
   // Whether the map asks for a page that lies on its side.
   [[nodiscard]] bool isWide() const { return map_.pixelWidth > map_.pixelHeight; }
 

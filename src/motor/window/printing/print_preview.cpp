@@ -22,6 +22,13 @@ constexpr QPageSize::PageSizeId kPapers[] = {QPageSize::A4, QPageSize::A3, QPage
 constexpr int kPortrait = 0;
 constexpr int kLandscape = 1;
 constexpr int kAsOnScreen = 1;
+constexpr QLatin1String kSourceWord("Fuente: ");
+
+// The page says what the text is; in the dialog its label does.
+QString withoutSourceWord(const QString& source) {
+  return source.startsWith(kSourceWord) ? source.mid(kSourceWord.size()) : source;
+}
+QString withSourceWord(const QString& source) { return source.isEmpty() ? source : kSourceWord + source; }
 
 }  // namespace
 
@@ -87,7 +94,7 @@ QLayout* PrintPreview::makeOptions(const PageTexts& texts) {
   form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   form->addRow(QStringLiteral("&Título:"), title_ = textField(texts.title));
   form->addRow(QStringLiteral("&Subtítulo:"), subtitle_ = textField(texts.subtitle));
-  form->addRow(QStringLiteral("&Fuente:"), source_ = textField(texts.source));
+  form->addRow(QStringLiteral("&Fuente:"), source_ = textField(withoutSourceWord(texts.source)));
   form->addRow(QStringLiteral("F&echa:"), date_ = textField(texts.date));
   form->addRow(legend_ = choice(QStringLiteral("&Leyenda")));
   form->addRow(scaleBar_ = choice(QStringLiteral("Esc&ala")));
@@ -115,7 +122,7 @@ void PrintPreview::followPaper() {
 }
 
 MapPage PrintPreview::page() const {
-  return MapPage(map_, {title_->text(), subtitle_->text(), source_->text(), date_->text()},
+  return MapPage(map_, {title_->text(), subtitle_->text(), withSourceWord(source_->text()), date_->text()},
                  {.legend = legend_->isChecked(),
                   .scaleBar = scaleBar_->isChecked(),
                   .northArrow = northArrow_->isChecked(),

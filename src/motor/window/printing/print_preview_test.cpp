@@ -39,7 +39,10 @@ TEST_F(Preview, OpensWithTheMapsTexts) {
   EXPECT_EQ(preview_->windowTitle(), "Imprimir el mapa");
   ASSERT_NE(field<QLineEdit>("Título:"), nullptr);
   EXPECT_EQ(field<QLineEdit>("Título:")->text(), "El atlas");
-  EXPECT_EQ(field<QLineEdit>("Fuente:")->text(), "Fuente: El atlas");
+  EXPECT_EQ(field<QLineEdit>("Fuente:")->text(), "El atlas") << "the label has the word";
+  EXPECT_EQ(preview_->page().texts().source, "Fuente: El atlas");
+  field<QLineEdit>("Fuente:")->clear();
+  EXPECT_EQ(preview_->page().texts().source, "");
   EXPECT_EQ(field<QComboBox>("Orientación:")->currentText(), "Horizontal") << "the map is wide";
   EXPECT_EQ(preview_->printer().pageLayout().orientation(), QPageLayout::Landscape);
 }
