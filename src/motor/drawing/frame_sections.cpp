@@ -6,20 +6,6 @@ namespace motor {
 
 namespace {
 
-LegendSwatch::Kind swatchOf(MapObject::Kind kind) {
-  switch (kind) {
-    case MapObject::Kind::region:
-      return LegendSwatch::Kind::region;
-    case MapObject::Kind::polyline:
-      return LegendSwatch::Kind::line;
-    case MapObject::Kind::point:
-      return LegendSwatch::Kind::symbol;
-    case MapObject::Kind::text:
-      return LegendSwatch::Kind::text;
-  }
-  return LegendSwatch::Kind::none;
-}
-
 LegendLine lineOf(const FrameLine& line) {
   const Styles& given = line.style;
   const Pen pen = line.kind == MapObject::Kind::polyline && given.line ? *given.line : given.pen.value_or(Pen{});

@@ -69,20 +69,6 @@ LegendSection sectionOf(const Layer& layer, Themes& themes) {
   return section;
 }
 
-LegendSwatch::Kind swatchOf(MapObject::Kind kind) {
-  switch (kind) {
-    case MapObject::Kind::region:
-      return LegendSwatch::Kind::region;
-    case MapObject::Kind::polyline:
-      return LegendSwatch::Kind::line;
-    case MapObject::Kind::point:
-      return LegendSwatch::Kind::symbol;
-    case MapObject::Kind::text:
-      return LegendSwatch::Kind::text;
-  }
-  return LegendSwatch::Kind::none;
-}
-
 // The line of a layer that is no theme, if it has an object to show.
 void addLayer(LegendSection& section, const Layer& layer) {
   const ObjectPtr sample = sampleOf(*layer.table);

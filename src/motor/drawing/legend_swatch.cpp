@@ -42,6 +42,20 @@ void paintSampleLine(QPainter& painter, const Pen& pen, const QRectF& box) {
 
 }  // namespace
 
+LegendSwatch::Kind swatchOf(MapObject::Kind kind) {
+  switch (kind) {
+    case MapObject::Kind::region:
+      return LegendSwatch::Kind::region;
+    case MapObject::Kind::polyline:
+      return LegendSwatch::Kind::line;
+    case MapObject::Kind::point:
+      return LegendSwatch::Kind::symbol;
+    case MapObject::Kind::text:
+      return LegendSwatch::Kind::text;
+  }
+  return LegendSwatch::Kind::none;
+}
+
 QSizeF swatchSize(const LegendSwatch& swatch) {
   if (swatch.kind == LegendSwatch::Kind::none) return {0, 0};
   const double sign = swatch.kind == LegendSwatch::Kind::sign ? std::ceil(swatch.points * kPixelsPerPoint) + 1 : 0;

@@ -17,6 +17,9 @@ struct LegendSwatch {
   double points = 0;  // of a sign: its size
 };
 
+// The sample of objects of a kind.
+[[nodiscard]] LegendSwatch::Kind swatchOf(MapObject::Kind kind);
+
 // Its room in logical pixels. Symbols are shown at their own size, but those of a layer no taller than other swatches.
 [[nodiscard]] QSizeF swatchSize(const LegendSwatch& swatch);
 

@@ -68,6 +68,14 @@ void addEntries(ClauseEntries& entries, const std::string& within, std::span<con
   }
 }
 
+// The same where one table is all there is.
+template <typename Part>
+ClauseEntries entriesOf(const std::string& within, std::span<const ClauseRule<Part>> rules) {
+  ClauseEntries entries;
+  addEntries(entries, within, rules);
+  return entries;
+}
+
 // What most clauses do with what follows their words.
 template <typename Part>
 void readNothing(TokenStream& /*stream*/, Part& /*part*/) {}

@@ -78,11 +78,7 @@ Statement parseSetLegend(TokenStream& stream, Position position) {
   return legend;
 }
 
-ClauseEntries setLegendClauses() {
-  ClauseEntries entries;
-  addEntries<LegendLayer>(entries, "layer", kRules);
-  return entries;
-}
+ClauseEntries setLegendClauses() { return entriesOf<LegendLayer>("layer", kRules); }
 
 Statement parseCreateLegend(TokenStream& stream, Position position) {
   CreateLegend legend;

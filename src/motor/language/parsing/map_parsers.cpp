@@ -13,11 +13,7 @@ Statement parseMapFrom(TokenStream& stream, Position position) {
   return map;
 }
 
-ClauseEntries mapFromClauses() {
-  ClauseEntries entries;
-  addEntries(entries, "", windowShapeRules());
-  return entries;
-}
+ClauseEntries mapFromClauses() { return entriesOf("", windowShapeRules()); }
 
 Statement parseAddMap(TokenStream& stream, Position position) {
   AddMapLayer add;

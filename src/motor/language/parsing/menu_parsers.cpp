@@ -181,11 +181,7 @@ Statement parseAlterButtonPad(TokenStream& stream, Position position) {
   return alter;
 }
 
-ClauseEntries createMenuClauses() {
-  ClauseEntries entries;
-  addEntries<MenuItem>(entries, "entry", kMenuRules);
-  return entries;
-}
+ClauseEntries createMenuClauses() { return entriesOf<MenuItem>("entry", kMenuRules); }
 
 ClauseEntries createButtonPadClauses() {
   ClauseEntries entries;

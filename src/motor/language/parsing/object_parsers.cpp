@@ -141,16 +141,8 @@ Statement parseCreateText(TokenStream& stream, Position position) {
   return object;
 }
 
-ClauseEntries shapeClauses() {
-  ClauseEntries entries;
-  addEntries<CreateObject>(entries, "", kShapeRules);
-  return entries;
-}
+ClauseEntries shapeClauses() { return entriesOf<CreateObject>("", kShapeRules); }
 
-ClauseEntries textClauses() {
-  ClauseEntries entries;
-  addEntries<CreateObject>(entries, "", kTextRules);
-  return entries;
-}
+ClauseEntries textClauses() { return entriesOf<CreateObject>("", kTextRules); }
 
 }  // namespace motor

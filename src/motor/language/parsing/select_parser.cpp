@@ -79,10 +79,6 @@ SelectStatement parseSelect(TokenStream& stream, Position position) {
   return select;
 }
 
-ClauseEntries selectClauses() {
-  ClauseEntries entries;
-  addEntries<SelectStatement>(entries, "", kRules);
-  return entries;
-}
+ClauseEntries selectClauses() { return entriesOf<SelectStatement>("", kRules); }
 
 }  // namespace motor

@@ -63,11 +63,7 @@ Statement parseOpenTable(TokenStream& stream, Position position) {
   return open;
 }
 
-ClauseEntries openTableClauses() {
-  ClauseEntries entries;
-  addEntries<OpenTable>(entries, "", kOpenRules);
-  return entries;
-}
+ClauseEntries openTableClauses() { return entriesOf<OpenTable>("", kOpenRules); }
 
 Statement parseCloseTable(TokenStream& stream, Position position) {
   CloseTable close{position, parseNames(stream, kTable)};
