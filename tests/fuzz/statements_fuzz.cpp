@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const FuzzedStudy study;
   motor::HeadlessWindows windows;
   motor::Session session(windows, {.roots = {study.path()}});
-  session.run("run application \"" + study.yearWorkspace() + "\"");
+  session.run(FuzzedStudy::statements());
   std::istringstream lines(std::string(data, data + size));
   for (std::string line; std::getline(lines, line);) {
     try {

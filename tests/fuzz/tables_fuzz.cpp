@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
 #include <string>
 
 #include "fuzzed_study.h"
@@ -12,11 +11,10 @@
 // and nothing else; each value and object of a table that is read can be had.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const FuzzedStudy study;
-  static const std::filesystem::path file = study.path() / "fuzz.mif";
   const std::uint8_t* const end = data + size;
   const std::uint8_t* const middle = std::find(data, end, std::uint8_t{0});
-  std::ofstream(file, std::ios::binary) << std::string(data, middle);
-  std::ofstream(study.path() / "fuzz.mid", std::ios::binary) << std::string(middle == end ? end : middle + 1, end);
+  const std::filesystem::path file = study.write("fuzz.mif", std::string(data, middle));
+  study.write("fuzz.mid", std::string(middle == end ? end : middle + 1, end));
   try {
     const std::shared_ptr<const motor::BaseTable> table = motor::BaseTable::read(file);
     for (motor::RowId row = 1; row <= table->rowCount(); ++row) {

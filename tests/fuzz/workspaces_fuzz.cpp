@@ -1,6 +1,5 @@
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
 #include <string>
 
 #include "fuzzed_study.h"
@@ -11,8 +10,7 @@
 // The input is a workspace beside the tables of a year. The session may reject it and nothing else.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const FuzzedStudy study;
-  static const std::string file = (study.path() / "2001" / "fuzz.wor").string();
-  std::ofstream(file, std::ios::binary) << std::string(data, data + size);
+  const std::string file = study.write("2001/fuzz.wor", std::string(data, data + size)).string();
   motor::HeadlessWindows windows;
   motor::Session session(windows, {.roots = {study.path()}});
   try {

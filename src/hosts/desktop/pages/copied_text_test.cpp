@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <QTextTable>
 
-#include "hosts/desktop/pages/page_text.h"
+#include "hosts/desktop/pages/reading/page_text.h"
 
 namespace desktop::pages {
 namespace {

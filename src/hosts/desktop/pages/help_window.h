@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "hosts/desktop/pages/study_folder.h"
+#include "hosts/desktop/pages/reading/study_folder.h"
 
 namespace desktop::pages {
 

@@ -18,8 +18,8 @@
 
 #include "hosts/desktop/pages/copied_text.h"
 #include "hosts/desktop/pages/find_bar.h"
-#include "hosts/desktop/pages/page_pictures.h"
 #include "hosts/desktop/pages/page_printing.h"
+#include "hosts/desktop/pages/reading/page_pictures.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/views/context_menu.h"
 

@@ -5,8 +5,8 @@
 #include <optional>
 #include <vector>
 
-#include "hosts/desktop/pages/page_text.h"
-#include "hosts/desktop/pages/study_folder.h"
+#include "hosts/desktop/pages/reading/page_text.h"
+#include "hosts/desktop/pages/reading/study_folder.h"
 #include "hosts/desktop/pages/text_search.h"
 #include "hosts/desktop/wait_cursor.h"
 

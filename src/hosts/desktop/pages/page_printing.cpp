@@ -11,7 +11,7 @@
 #include <QTextTable>
 #include <memory>
 
-#include "hosts/desktop/pages/page_text.h"
+#include "hosts/desktop/pages/reading/page_text.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/wait_cursor.h"
 

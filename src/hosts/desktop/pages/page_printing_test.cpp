@@ -6,7 +6,7 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
-#include "hosts/desktop/pages/old_pages.h"
+#include "hosts/desktop/pages/reading/old_pages.h"
 
 namespace desktop::pages {
 namespace {
