@@ -13,6 +13,7 @@
 
 #include "motor/drawing/legend.h"
 #include "motor/drawing/map_image.h"
+#include "motor/drawing/symbol_pictures.h"
 #include "motor/language/workspace.h"
 #include "motor/session/headless_windows.h"
 #include "motor/session/session.h"
@@ -27,7 +28,7 @@ namespace {
 
 constexpr const char* kUsage =
     "motor FILE.wor [--size WxH] [--png OUT] [--legend OUT] [do STATEMENT | eval EXPRESSION | click X Y]...\n"
-    "motor --parse FILE...\n"
+    "motor --parse [--passed] FILE...\n"
     "motor --help\n";
 
 struct UsageError : std::runtime_error {
@@ -165,6 +166,7 @@ int open(const CommandLine& line) {
       line.size ? motor::HeadlessWindows(line.size->width(), line.size->height()) : motor::HeadlessWindows();
   motor::SessionOptions options;
   options.roots = motor::rootsOf(workspace);
+  motor::useSymbolsOf(options.roots.back());
   motor::Session session(windows, options);
   session.setCallback(std::make_shared<PrintedCallback>());
   if (!succeeds([&] { session.run("run application \"" + workspace.string() + "\""); })) return 1;
@@ -174,7 +176,8 @@ int open(const CommandLine& line) {
   return good ? 0 : 1;
 }
 
-int parse(const std::vector<std::string>& files) {
+// `tellsPassedOver`: below each file's line, a line for each clause that is read and without effect.
+int parse(const std::vector<std::string>& files, bool tellsPassedOver) {
   int status = 0;
   for (const std::string& name : files) {
     QFile file(QFile::decodeName(name.c_str()));
@@ -186,6 +189,11 @@ int parse(const std::vector<std::string>& files) {
     try {
       const motor::Workspace workspace = motor::parseWorkspace(file.readAll().toStdString());
       std::cout << name << ": " << workspace.statements.size() << " statements\n";
+      if (!tellsPassedOver) continue;
+      for (const motor::PassedOverPart& part : workspace.passedOver) {
+        std::cout << name << ':' << part.position.line << ':' << part.position.column << ": passed over: " << part.words
+                  << '\n';
+      }
     } catch (const motor::LanguageError& error) {
       const motor::Position at = error.position();
       const std::string word = error.word().empty() ? "fin del texto" : "«" + error.word() + "»";
@@ -221,7 +229,10 @@ int main(int argc, char** argv) {
     std::cout << kUsage;
     return 0;
   }
-  if (!words.empty() && words.front() == "--parse") return parse({words.begin() + 1, words.end()});
+  if (!words.empty() && words.front() == "--parse") {
+    const bool tellsPassedOver = words.size() > 1 && words[1] == "--passed";
+    return parse({words.begin() + (tellsPassedOver ? 2 : 1), words.end()}, tellsPassedOver);
+  }
   try {
     if (words.empty()) throw UsageError("falta el área de trabajo");
     const CommandLine line = parsedCommandLine(words);

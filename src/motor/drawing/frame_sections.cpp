@@ -29,6 +29,7 @@ std::vector<LegendSection> frameSections(const Map& map,
     section.titleFont = frame.titleFont.value_or(section.titleFont);
     section.subtitleFont = frame.subtitleFont.value_or(section.subtitleFont);
     section.lineFont = frame.lineFont.value_or(section.lineFont);
+    section.border = frame.border;
     if (!frame.lines.empty()) section.lines.clear();
     for (const FrameLine& line : frame.lines) section.lines.push_back(lineOf(line));
     sections.push_back(std::move(section));

@@ -49,7 +49,7 @@ double lineLeft(Qt::Alignment alignment, double room) {
 
 }  // namespace
 
-HaloText::HaloText(const QStringList& lines, const Font& font, double pixels)
+HaloText::HaloText(const QStringList& lines, const Font& font, double pixels, double spacing)
     : lines_(bounded(lines)),
       font_(toQFont(font, pixels)),
       fore_(toQColor(font.fore)),
@@ -58,10 +58,11 @@ HaloText::HaloText(const QStringList& lines, const Font& font, double pixels)
   if (hasBox(font)) box_ = toQColor(font.back);
   if (hasShadow(font)) shadow_ = kShadow;
   const QFontMetricsF metrics(font_);
-  lineHeight_ = metrics.ascent() + metrics.descent();
+  const double lineHeight = metrics.ascent() + metrics.descent();
+  lineStep_ = lineHeight * spacing;
   double width = 0;
   for (const QString& line : lines_) width = std::max(width, metrics.horizontalAdvance(line));
-  size_ = {width, lineHeight_ * static_cast<double>(lines_.size())};
+  size_ = {width, lineHeight + lineStep_ * static_cast<double>(lines_.size() - 1)};
   if (box_.isValid()) size_ += QSizeF(2 * kBoxRoom, 0);
 }
 
@@ -74,7 +75,7 @@ QList<QPointF> HaloText::starts(QPointF corner, Qt::Alignment alignment) const {
     const double room = size_.width() - 2 * edge - metrics.horizontalAdvance(lines_[i]);
     // Whole pixels keep the letters sharp.
     starts.append({std::round(corner.x() + edge + lineLeft(alignment, room)),
-                   std::round(corner.y() + static_cast<double>(i) * lineHeight_ + metrics.ascent())});
+                   std::round(corner.y() + static_cast<double>(i) * lineStep_ + metrics.ascent())});
   }
   return starts;
 }

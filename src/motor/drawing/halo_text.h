@@ -16,8 +16,9 @@ namespace motor {
 class HaloText {
  public:
   // `pixels` is the letters' height in logical pixels, or 0 for the font's own size. Of more lines or letters than any
-  // map has room for the first ones are taken, with an ellipsis at the end.
-  HaloText(const QStringList& lines, const Font& font, double pixels = 0);
+  // map has room for the first ones are taken, with an ellipsis at the end. `spacing` is from line to line, in heights
+  // of a line.
+  HaloText(const QStringList& lines, const Font& font, double pixels = 0, double spacing = 1);
 
   // With the box, where there is one.
   [[nodiscard]] QSizeF size() const { return size_; }
@@ -35,7 +36,7 @@ class HaloText {
   QColor box_;  // not valid without one
   QColor shadow_;
   double haloWidth_;
-  double lineHeight_;
+  double lineStep_;  // from line to line
   QSizeF size_;
 };
 

@@ -30,6 +30,16 @@ TEST(HaloText, AHaloHasItsColourAndIsWhiteWithoutOne) {
   EXPECT_GT(small::countOf(written(font(256, kTransparent)), 0xFFFFFFFF), 50);
 }
 
+TEST(HaloText, LinesStandSoFarApart) {
+  const auto height = [](const QStringList& lines, double spacing) {
+    return HaloText(lines, font(0, kTransparent), 20, spacing).size().height();
+  };
+  const double line = height({"a"}, 1);
+  EXPECT_DOUBLE_EQ(height({"a"}, 2), line);
+  EXPECT_DOUBLE_EQ(height({"a", "b"}, 1), 2 * line);
+  EXPECT_DOUBLE_EQ(height({"a", "b", "c"}, 1.5), 4 * line);
+}
+
 TEST(HaloText, ABoxIsFilledFromEdgeToEdge) {
   const HaloText text({"Ala"}, font(0, kYellow));
   EXPECT_GT(text.size().width(), HaloText({"Ala"}, font(0, kTransparent)).size().width() + 4);

@@ -210,7 +210,9 @@ void LabelPainter::paintLayer(const Layer& layer, std::vector<LabelCandidate> ca
     return area(a.object->bounds) > area(b.object->bounds);
   });
   std::set<QString> written;
+  int left = layer.label.maximum.value_or(std::numeric_limits<int>::max());
   for (const LabelCandidate& candidate : candidates) {
+    if (left <= 0 && candidate.edited == nullptr) break;
     const MapObject& object = *candidate.object;
     if (object.kind == MapObject::Kind::text || object.points.empty()) continue;
     const bool hasOwnText = candidate.edited != nullptr && candidate.edited->text;
@@ -219,6 +221,7 @@ void LabelPainter::paintLayer(const Layer& layer, std::vector<LabelCandidate> ca
     if (text.isEmpty()) continue;
     if (candidate.edited == nullptr && !layer.label.duplicates && written.contains(text)) continue;
     if (!paintLabel(layer, candidate, text)) continue;
+    --left;
     written.insert(text);
     if (candidate.edited != nullptr && candidate.anchor) {
       LabelCandidate unmoved = candidate;

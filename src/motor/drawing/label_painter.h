@@ -49,7 +49,7 @@ struct LabelCandidate {
 // Writes the labels of a map, layer by layer from the most important one on. Labels lie whole in the picture; those of
 // lines lie along them where their layer wants it. A label stays away if it would lie on one
 // that is already there, unless its layer lets labels overlap; a text is written once a layer unless duplicates are
-// wanted. Labels that were put by hand come first and always stand.
+// wanted, and only so many as the layer may have. Labels that were put by hand come first and always stand.
 class LabelPainter {
  public:
   LabelPainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, int level, LabelTexts& texts,

@@ -123,6 +123,26 @@ TEST(Labels, PutByHandMayBeTurned) {
   EXPECT_GT(ink.height(), 2 * ink.width());
 }
 
+TEST(Labels, AreNoMoreThanTheirLayerMayHave) {
+  Layer layer = labelled({villageAt({20, 20}), villageAt({20, 80})}, {"Mina", "Vega"});
+  const auto labels = [&] {
+    const QImage image = painted({layer});
+    const auto isThere = [&](int top) { return inkRect(image.copy(0, top, 100, 50)).isEmpty() ? 0 : 1; };
+    return isThere(0) + isThere(50);
+  };
+  EXPECT_EQ(labels(), 2);
+  layer.label.maximum = 1;
+  EXPECT_EQ(labels(), 1);
+  layer.label.maximum = 0;
+  EXPECT_EQ(labels(), 0);
+  layer.label.maximum = -5;
+  EXPECT_EQ(labels(), 0);
+  EditedLabel label;
+  label.row = 2;
+  layer.label.edited = {label};
+  EXPECT_EQ(labels(), 1) << "the one that was put by hand";
+}
+
 TEST(Labels, WiderThanThePictureAreBroken) {
   const QRect ink = inkRect(painted({labelled({small::region({small::square(0, 0, 100, 100)}, small::kNoBrush)},
                                               {"Tierras de la Mina Grande del Río"})}));

@@ -6,6 +6,7 @@
 
 #include "motor/drawing/colours.h"
 #include "motor/drawing/fonts.h"
+#include "motor/drawing/pens.h"
 #include "motor/drawing/wrapped_text.h"
 
 namespace motor {
@@ -37,6 +38,12 @@ QFont lettersOf(Font font) {
 
 double lineHeight(const QFontMetricsF& metrics) { return metrics.ascent() + metrics.descent(); }
 
+// On the middles of pixels, so that one pixel's lines are sharp.
+QRectF onPixels(const QRectF& box) {
+  return {QPointF(std::floor(box.left()) + 0.5, std::floor(box.top()) + 0.5),
+          QPointF(std::floor(box.right()) - 0.5, std::floor(box.bottom()) - 0.5)};
+}
+
 double heightOf(const QString& text, const QFont& font) {
   const QFontMetricsF metrics(font);
   return lineHeight(metrics) * static_cast<double>(wrapped(text, metrics).size());
@@ -48,8 +55,10 @@ Legend::Legend(const std::vector<LegendSection>& sections) {
   double bottom = kMargin;
   for (const LegendSection& section : sections) {
     if (bottom > kMargin) bottom += kSectionGap;
+    const double top = bottom;
     bottom = placeHeading(section, bottom);
     bottom = placeLines(section, bottom);
+    if (section.border && isVisible(*section.border)) borders_.push_back({*section.border, top, bottom});
   }
   size_ = {std::max(static_cast<int>(std::ceil(right_ + kMargin)), kLeastWidth),
            static_cast<int>(std::ceil(bottom + kMargin))};
@@ -107,9 +116,21 @@ double Legend::placeLines(const LegendSection& section, double top) {
   return bottom;
 }
 
+// All borders are as wide as the legend, half-way into the room around its sections.
+void Legend::paintBorder(QPainter& painter, const PlacedBorder& border) const {
+  const QRectF box(QPointF(kMargin, border.top), QPointF(size_.width() - kMargin, border.bottom));
+  const QRectF around = box.adjusted(-kMargin / 2, -kMargin / 2, kMargin / 2, kMargin / 2);
+  painter.setBrush(Qt::NoBrush);
+  for (const QPen& stroke : penStrokes(border.pen)) {
+    painter.setPen(stroke);
+    painter.drawRect(onPixels(around));
+  }
+}
+
 void Legend::paint(QPainter& painter, double devicePixelRatio) const {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
+  for (const PlacedBorder& border : borders_) paintBorder(painter, border);
   for (const PlacedSwatch& placed : swatches_) paintSwatch(painter, placed.swatch, placed.box, devicePixelRatio);
   for (const PlacedText& placed : texts_) {
     painter.setFont(placed.font);

@@ -37,14 +37,21 @@ class Legend {
     LegendSwatch swatch;
     QRectF box;
   };
+  struct PlacedBorder {
+    Pen pen;
+    double top;
+    double bottom;
+  };
   // Places a text from a top left corner on, broken into lines where it is too wide; gives the bottom.
   double place(const QString& text, const QFont& font, const QColor& colour, QPointF corner);
   double placeHeading(const LegendSection& section, double top);
   void placeLine(const LegendLine& line, const Font& font, double swatchWidth, double top, double height);
   double placeLines(const LegendSection& section, double top);
+  void paintBorder(QPainter& painter, const PlacedBorder& border) const;
 
   std::vector<PlacedText> texts_;
   std::vector<PlacedSwatch> swatches_;
+  std::vector<PlacedBorder> borders_;
   double right_ = 0;
   QSize size_;
 };

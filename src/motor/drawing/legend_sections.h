@@ -24,6 +24,7 @@ struct LegendSection {
   Font titleFont;
   Font subtitleFont;
   Font lineFont;
+  std::optional<Pen> border;  // around all of it
   std::vector<LegendLine> lines;
 };
 

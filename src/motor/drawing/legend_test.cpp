@@ -31,6 +31,33 @@ bool isBlank(const QImage& image, int x) {
   return true;
 }
 
+TEST(Legend, framesHaveTheirBorders) {
+  const Layer base = small::squares(1, Brush{2, small::kRed, kTransparent});
+  Map map = small::map({base});
+  MapLegendFrame frame;
+  frame.layer = base.name;
+  map.legendFrames = {frame, frame};
+  const QImage plain = renderLegend(map, 1);
+  map.legendFrames[0].border = Pen{1, 2, 0xFF00};
+  map.legendFrames[1].border = Pen{0, 1, 0xFF00};
+  const QImage bordered = renderLegend(map, 1);
+  EXPECT_EQ(bordered.size(), plain.size());
+  int top = -1;
+  int bottom = -1;
+  for (int y = 0; y < bordered.height(); ++y) {
+    if (bordered.pixel(bordered.width() / 2, y) != kGreenPixel) continue;
+    if (top < 0) top = y;
+    bottom = y;
+  }
+  EXPECT_GE(top, 0);
+  EXPECT_GT(bottom, top + 10);
+  EXPECT_LT(bottom, bordered.height() / 2) << "the other has a pen that draws nothing";
+  const int middle = (top + bottom) / 2;
+  const auto isOnEdge = [&](int x) { return bordered.pixel(x, middle) == kGreenPixel; };
+  EXPECT_TRUE(isOnEdge(6));
+  EXPECT_TRUE(isOnEdge(bordered.width() - 8) || isOnEdge(bordered.width() - 7));
+}
+
 TEST(Legend, listsTheLayersOfAMapWithoutThemes) {
   const Layer shown = small::squares(1, Brush{2, small::kRed, kTransparent});
   Layer hidden = shown;

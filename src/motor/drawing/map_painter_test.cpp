@@ -186,6 +186,33 @@ TEST(MapPainter, WritesTextObjectsAtTheirCorner) {
   EXPECT_EQ(countOf(image.copy(0, 66, 100, 34), kWhitePixel), 3400);
 }
 
+TEST(MapPainter, JustifiesTheLinesOfTextObjects) {
+  const auto lowerLine = [](TextJustify justify, float spacing) {
+    MapObject text = small::shape(MapObject::Kind::text, {{{10, 20}}});
+    text.text = "MMM\nM";
+    text.lineHeight = 20;
+    text.lineSpacing = spacing;
+    text.justify = justify;
+    text.bounds = {10, 20, 90, 60};
+    text.font.size = 0;
+    text.font.fore = small::kRed;
+    const QImage image = painted({small::layer({std::make_shared<MapObject>(text)})});
+    QRect ink;
+    for (int y = 64; y < 80; ++y) {
+      for (int x = 0; x < 100; ++x) {
+        if (qGreen(image.pixel(x, y)) < 100) ink |= QRect(x, y, 1, 1);
+      }
+    }
+    return ink.left();
+  };
+  const int left = lowerLine(TextJustify::left, 1);
+  const int center = lowerLine(TextJustify::center, 1);
+  const int right = lowerLine(TextJustify::right, 1.5);
+  EXPECT_GE(left, 10);
+  EXPECT_GT(center, left + 5);
+  EXPECT_GT(right, center + 5);
+}
+
 TEST(MapPainter, UsesTheDevicesPixels) {
   const QImage image =
       painted(small::map({small::layer({small::region({small::square(20, 20, 80, 80)}, kRedFill)})}), 2);

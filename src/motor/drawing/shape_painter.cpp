@@ -51,6 +51,18 @@ QPainterPath pathOf(const std::vector<QPolygonF>& rings) {
   return path;
 }
 
+Qt::Alignment alignmentOf(TextJustify justify) {
+  switch (justify) {
+    case TextJustify::center:
+      return Qt::AlignHCenter;
+    case TextJustify::right:
+      return Qt::AlignRight;
+    case TextJustify::left:
+      break;
+  }
+  return Qt::AlignLeft;
+}
+
 }  // namespace
 
 DrawnStyle styleIn(const Layer& layer, const MapObject& object) {
@@ -208,11 +220,11 @@ void ShapePainter::paintText(const MapObject& object, const Font& font) {
   if (!(height >= 2 && height < 4 * view_.rect().height())) return;
   const QPointF corner = view_.toPixel(object.points.front());
   if (!grown(view_.rect(), kFarOutside + height).contains(corner)) return;
-  const HaloText text(lines, font, height);
+  const HaloText text(lines, font, height, object.lineSpacing);
   painter_.save();
   painter_.translate(corner);
   painter_.rotate(-turnOf(object.angle));
-  text.paint(painter_, {0, -text.size().height()}, Qt::AlignLeft);
+  text.paint(painter_, {0, -text.size().height()}, alignmentOf(object.justify));
   painter_.restore();
 }
 

@@ -111,13 +111,26 @@ class SymbolPictures : public ::testing::Test {
     for (int y = 2; y < 8; ++y) {
       for (int x = 2; x < 8; ++x) image.setPixel(x, y, 0xFF000000);
     }
-    EXPECT_TRUE(image.save(folder_.filePath("casa.bmp")));
-    QDir::setSearchPaths(kSymbolFolders, {folder_.path()});
+    EXPECT_TRUE(QDir(folder_.path()).mkpath("aplicacion/CUSTSYMB"));
+    EXPECT_TRUE(image.save(application("CUSTSYMB/casa.BMP")));
+    EXPECT_TRUE(image.save(application("casa.bmp")));
+    useSymbolsOf(application("").toStdString());
     symbol_.colour = kInkColour;
     symbol_.size = 15;  // 20 pixels
     symbol_.file = "casa.bmp";
   }
-  ~SymbolPictures() override { QDir::setSearchPaths(kSymbolFolders, {}); }
+  ~SymbolPictures() override { useSymbolsOf({}); }
+
+  [[nodiscard]] QString application(const QString& file) const { return folder_.filePath("aplicacion/" + file); }
+  // Whether the disc of an unknown symbol is drawn instead of the picture.
+  [[nodiscard]] bool isUnknown(const std::string& file) const {
+    Symbol named = symbol_;
+    named.file = file;
+    Symbol disc = symbol_;
+    disc.file.clear();
+    disc.shape = 34;
+    return stamped(named) == stamped(disc);
+  }
 
   // On a ground that is not white.
   [[nodiscard]] QImage onGround() const {
@@ -151,15 +164,34 @@ TEST_F(SymbolPictures, HaveTheSymbolsSizeOrTheirOwn) {
   EXPECT_EQ(onGround().pixel(18, 18), 0xFF000000);
 }
 
-TEST_F(SymbolPictures, AreReadFromTheirFoldersOnly) {
-  Symbol disc = symbol_;
-  disc.file.clear();
-  disc.shape = 34;
-  for (const std::string& file : {std::string("nada.bmp"), std::string("../casa.bmp"),
-                                  folder_.filePath("casa.bmp").toStdString(), std::string("symbols:casa.bmp")}) {
-    symbol_.file = file;
-    EXPECT_EQ(stamped(symbol_), stamped(disc)) << file;
+TEST_F(SymbolPictures, AreReadFromTheirFolderOnly) {
+  EXPECT_FALSE(isUnknown("Casa.bmp"));
+  const QString picture = application("CUSTSYMB/casa.BMP");
+  ASSERT_TRUE(QFile::link(application("casa.bmp"), application("CUSTSYMB/enlace.bmp")));
+  ASSERT_TRUE(QFile::link("/dev/zero", application("CUSTSYMB/cero.bmp")));
+  for (const std::string& file :
+       {std::string("nada.bmp"), std::string("../casa.bmp"), std::string("..\\casa.bmp"), picture.toStdString(),
+        std::string("enlace.bmp"), std::string("cero.bmp"), std::string(".."), std::string(".")}) {
+    EXPECT_TRUE(isUnknown(file)) << file;
   }
+}
+
+TEST_F(SymbolPictures, AreOfTheKindsThatMapsHave) {
+  QFile drawing(application("CUSTSYMB/dibujo.bmp"));
+  ASSERT_TRUE(drawing.open(QIODevice::WriteOnly));
+  drawing.write("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>");
+  drawing.close();
+  EXPECT_TRUE(isUnknown("dibujo.bmp"));
+}
+
+TEST_F(SymbolPictures, AreThoseOfTheApplicationInUse) {
+  EXPECT_FALSE(isUnknown("casa.bmp"));
+  QDir(folder_.path()).mkpath("otra");
+  ASSERT_TRUE(QFile::link(application("CUSTSYMB"), folder_.filePath("otra/CustSymb")));
+  useSymbolsOf(folder_.filePath("otra").toStdString());
+  EXPECT_TRUE(isUnknown("casa.bmp")) << "a link out of the application";
+  useSymbolsOf(folder_.filePath("nada").toStdString());
+  EXPECT_TRUE(isUnknown("casa.bmp"));
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ const Form kForms[] = {
      "1 "
      "Border Pen (0,1,0) Using Column object",
      "create cartographic legend ... window title; create cartographic legend ... scrollbars; create cartographic "
-     "legend ... custom; create cartographic legend ... border; create cartographic legend ... using"},
+     "legend ... custom; create cartographic legend ... using"},
     // objects
     {"Create Point (7,7)\n    Symbol (\"SIGNO.BMP\",2105599,14,0) ", "done"},
     {"Create Rect (MapperInfo(9,5),MapperInfo(9,6)) (MapperInfo(9,7),MapperInfo(9,8)) Pen (5,2,16776960) Brush (1,0,9)",
@@ -109,7 +109,7 @@ const Form kForms[] = {
     {"Create Pline 3 (1,2) (3,4) (5,6) Smooth", "create pline ... smooth"},
     {"Create Text \"Zona \\nde obras\" (1,2) (3,4) Font (\"Arial\",257,0,0,16776960) Justify Center Spacing 1.5 Angle "
      "30",
-     "create text ... justify center; create text ... spacing"},
+     "done"},
     {"Set CoordSys Layout Units \"in\"", "done"},
     {"Set CoordSys Earth Projection 3, 33, \"ft\", -120.5, 43.6, 44.3, 46, 8, 0 Bounds (-34,-33) (36,37)", "done"},
     // windows

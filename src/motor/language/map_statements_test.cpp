@@ -146,6 +146,7 @@ TEST(LabelClauseTest, isRead) {
   EXPECT_EQ(label.overlap, false);
   EXPECT_EQ(label.duplicates, false);
   EXPECT_EQ(shown(label.offset), "5");
+  EXPECT_EQ(shown(label.maximum), "6");
   EXPECT_EQ(label.visibility, LabelClause::Visibility::zoom);
   EXPECT_EQ(shown(label.visibilityZoom->maximum), "2000");
   ASSERT_EQ(label.objects.size(), 2U);
@@ -176,6 +177,9 @@ TEST(LabelClauseTest, switchesOnAndOff) {
   EXPECT_EQ(label("Auto Off").automatic, false);
   EXPECT_FALSE(label("Auto Retry On").automatic);
   EXPECT_EQ(label("Max Overlap On").overlap, true);
+  EXPECT_TRUE(label("Max Overlap On").saysMaximum);
+  EXPECT_EQ(label("Max Overlap On").maximum, nullptr);
+  EXPECT_FALSE(label("Overlap On").saysMaximum);
   EXPECT_EQ(label("Line None").line, LabelLine::none);
 }
 

@@ -51,4 +51,7 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
+// How the lines of a text stand among each other.
+enum class TextJustify : std::uint8_t { left, center, right };
+
 }  // namespace motor

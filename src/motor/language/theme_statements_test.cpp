@@ -119,12 +119,26 @@ TEST(LegendTest, cartographicIsRead) {
   EXPECT_TRUE(legend.frames[0].samples[0].style.pen && legend.frames[0].samples[0].style.brush);
   EXPECT_TRUE(legend.frames[0].samples[1].style.pen);
   EXPECT_TRUE(legend.frames[0].samples[2].style.symbol);
+  EXPECT_TRUE(legend.frames[0].border && legend.frames[1].border);
+  EXPECT_FALSE(legend.defaultBorder);
   EXPECT_EQ(legend.frames[1].layer.name, "Zonas");
   EXPECT_EQ(shown(legend.frames[1].title.text) + shown(legend.frames[1].subtitle.text), "TS");
   EXPECT_EQ(shown(legend.frames[0].place->at), "1,2");
   using Kind = LegendSample::Kind;
   const Kind kinds[] = {Kind::region, Kind::line, Kind::point};
   for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(legend.frames[0].samples[i].kind, kinds[i]) << i;
+}
+
+TEST(CreateObjectTest, readsHowTheLinesOfATextStand) {
+  const auto text = [](const std::string& clauses) {
+    return parsed<CreateObject>("Create Text \"a\" (1,2) (3,4) " + clauses);
+  };
+  EXPECT_EQ(text("").justify, TextJustify::left);
+  EXPECT_EQ(text("").spacing, nullptr);
+  EXPECT_EQ(text("Justify Center").justify, TextJustify::center);
+  EXPECT_EQ(text("Justify Right Justify Left").justify, TextJustify::left);
+  EXPECT_EQ(text("Spacing 1.5 Justify Right").justify, TextJustify::right);
+  EXPECT_EQ(shown(text("Spacing 1.5").spacing), "1.5");
 }
 
 TEST(CreateObjectTest, readsEveryShape) {

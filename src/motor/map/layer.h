@@ -47,6 +47,7 @@ struct LabelSettings {
   bool parallel = true;
   bool overlap = false;
   bool duplicates = false;
+  std::optional<int> maximum;       // of the layer's labels; none: no limit
   std::vector<EditedLabel> edited;  // at most one a row
 };
 

@@ -26,6 +26,7 @@ struct MapLegendFrame {
   std::optional<Font> titleFont;
   std::optional<Font> subtitleFont;
   std::optional<Font> lineFont;
+  std::optional<Pen> border;
   std::vector<FrameLine> lines;
 };
 

@@ -25,10 +25,11 @@ bool isLineNear(const MapObject& line, Point p, double tolerance) {
   return false;
 }
 
-bool isHit(const MapObject& object, Point p, double tolerance) {
+bool isHit(const ObjectSet& set, std::uint32_t index, Point p, double tolerance) {
+  const MapObject& object = *set.objects()[index];
   switch (object.kind) {
     case MapObject::Kind::region:
-      return contains(object, p);
+      return set.covers(index, p);
     case MapObject::Kind::polyline:
       return isLineNear(object, p, tolerance);
     case MapObject::Kind::point:
@@ -52,7 +53,7 @@ std::vector<RowId> rowsAt(const Map& map, const Layer& layer, Point p, double to
   const std::shared_ptr<const ObjectSet> set = projectedObjects(layer.table, map.coordinateSystem);
   std::vector<RowId> rows;
   for (const std::uint32_t index : set->objectsIn(around)) {
-    if (isHit(*set->objects()[index], p, tolerance)) rows.push_back(set->rowsOf(index).front());
+    if (isHit(*set, index, p, tolerance)) rows.push_back(set->rowsOf(index).front());
   }
   return rows;
 }

@@ -66,6 +66,8 @@ class Frames {
     if (written.place) placed.place = session_.point(written.place->at);
     MapLegendFrame& frame = placed.frame;
     frame.layer = layer.name;
+    const std::optional<StyleClause>& border = written.border ? written.border : legend_.defaultBorder;
+    if (border) frame.border = evaluatePen(*border, session_.scope);
     if (layer.theme) return placed;  // its own legend says all
     frame.title = text(written.title, legend_.defaultTitle, layer);
     frame.subtitle = text(written.subtitle, legend_.defaultSubtitle, layer);

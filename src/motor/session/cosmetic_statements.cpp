@@ -113,9 +113,15 @@ double heightOf(const CreateObject& statement, const SessionState& session, cons
 
 // The lines of a text share its box.
 void setText(MapObject& object, std::string text, double height) {
-  const auto lines = std::count(text.begin(), text.end(), '\n') + 1;
+  const auto further = static_cast<double>(std::count(text.begin(), text.end(), '\n'));
   object.text = std::move(text);
-  object.lineHeight = height / static_cast<double>(lines);
+  object.lineHeight = height / (1 + further * double{object.lineSpacing});
+}
+
+// A multiple of a line's height; what is none leaves the lines as they are.
+float spacingOf(double wanted) {
+  constexpr double kMost = 10;
+  return wanted > 0 ? static_cast<float>(std::min(wanted, kMost)) : 1;
 }
 
 ObjectPtr objectOf(const CreateObject& statement, const SessionState& session, const CoordinateSystem& target) {
@@ -135,6 +141,8 @@ ObjectPtr objectOf(const CreateObject& statement, const SessionState& session, c
   object->brush = styles.brush.value_or(Brush{});
   object->symbol = styles.symbol.value_or(Symbol{});
   object->font = styles.font.value_or(Font{});
+  object->justify = statement.justify;
+  if (statement.spacing) object->lineSpacing = spacingOf(session.number(statement.spacing));
   if (statement.text)
     setText(*object, withLineBreaks(session.text(statement.text)), heightOf(statement, session, target));
   if (statement.angle) object->angle = session.number(statement.angle);

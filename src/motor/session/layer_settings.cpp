@@ -87,6 +87,9 @@ void changeLabels(Layer& layer, const LabelClause& clause, const std::string& di
   put(label.automatic, clause.automatic);
   put(label.overlap, clause.overlap);
   put(label.duplicates, clause.duplicates);
+  if (clause.saysMaximum) {
+    label.maximum = clause.maximum ? std::optional(session.integer(clause.maximum)) : std::nullopt;
+  }
   for (const CustomLabel& custom : clause.objects) changeEditedLabel(layer, custom, session);
 }
 

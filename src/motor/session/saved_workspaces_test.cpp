@@ -78,6 +78,30 @@ TEST_F(SavedWorkspaces, drawTextsInTheirBoxes) {
   EXPECT_EQ(drawn.object(1)->text, "Zona \nde obras");
   EXPECT_DOUBLE_EQ(drawn.object(1)->lineHeight, 0.5);
   EXPECT_EQ(drawn.object(1)->points.front(), (Point{-4, 40}));
+  EXPECT_EQ(drawn.object(1)->justify, TextJustify::center);
+}
+
+TEST_F(SavedWorkspaces, drawTextsInLinesApart) {
+  const auto lineHeight = [&](const std::string& spacing) {
+    open("Close All\n" + kMap +
+         "Set CoordSys Earth Projection 1, 104\nSet Map Layer 0 Editable\n"
+         "Create Text \"a\\nb\\nc\" (-4,40) (-2,42) Spacing " +
+         spacing);
+    return ownMap().cosmetic.table->object(1)->lineHeight;
+  };
+  EXPECT_DOUBLE_EQ(lineHeight("1"), 2.0 / 3);
+  EXPECT_DOUBLE_EQ(lineHeight("1.5"), 0.5);
+  EXPECT_DOUBLE_EQ(lineHeight("-3"), 2.0 / 3);
+  EXPECT_NEAR(lineHeight("1e300"), 2.0 / 21, 1e-6);
+}
+
+TEST_F(SavedWorkspaces, limitTheLabelsOfALayer) {
+  open(kMap + "Set Map Layer 1 Label Auto On Max 6\n");
+  EXPECT_EQ(ownMap().layers[0].label.maximum, 6);
+  own_.run("Set Map Layer 1 Label Overlap On");
+  EXPECT_EQ(ownMap().layers[0].label.maximum, 6);
+  own_.run("Set Map Layer 1 Label Max");
+  EXPECT_EQ(ownMap().layers[0].label.maximum, std::nullopt);
 }
 
 TEST_F(SavedWorkspaces, keepTheCoordinateSystemAcrossALayout) {
@@ -94,8 +118,9 @@ TEST_F(SavedWorkspaces, keepTheCoordinateSystemAcrossALayout) {
 TEST_F(SavedWorkspaces, giveAMapTheFramesOfItsLegend) {
   open(kMap +
        "Create Cartographic Legend From Window FrontWindow() Custom Default Frame Title \"# (%)\" Font "
-       "(\"Arial\",1,10,255) Default Frame Style \"%\" Font (\"Arial\",0,8,0)\n"
-       "Frame From Layer 1 Position (1,5) Units \"in\" Title \"Puntos\" Style Text \"Pozo\\nviejo\" Symbol (34,255,9)\n"
+       "(\"Arial\",1,10,255) Default Frame Style \"%\" Font (\"Arial\",0,8,0) Default Frame Border Pen (1,2,255)\n"
+       "Frame From Layer 1 Position (1,5) Units \"in\" Border Pen (0,1,0) Title \"Puntos\" Style Text \"Pozo\\nviejo\" "
+       "Symbol (34,255,9)\n"
        "Frame From Layer Zonas Position (1,2) Units \"in\" Using Column object Style Font (\"Arial\",1,8,0) Text \"a\" "
        "Region Pen (1,2,255) Brush (2,65280,0) Text \"b\" Line Pen (3,2,255)\n");
   const std::vector<MapLegendFrame>& frames = ownMap().legendFrames;
@@ -108,6 +133,8 @@ TEST_F(SavedWorkspaces, giveAMapTheFramesOfItsLegend) {
   EXPECT_EQ(frames[0].lines[0].kind, MapObject::Kind::region);
   EXPECT_EQ(frames[0].lines[0].style.brush->fore, 65280);
   EXPECT_EQ(frames[0].lines[1].kind, MapObject::Kind::polyline);
+  EXPECT_EQ(frames[0].border, (Pen{1, 2, 255}));
+  EXPECT_EQ(frames[1].border, (Pen{0, 1, 0}));
   EXPECT_EQ(frames[1].title, "Puntos");
   EXPECT_EQ(frames[1].lines.at(0).text, "Pozo\nviejo");
   EXPECT_EQ(frames[1].lineFont->size, 8);

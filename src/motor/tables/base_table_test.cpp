@@ -250,57 +250,5 @@ TEST_F(BaseTableTest, readsTheTablesOfASeamlessTable) {
   EXPECT_THROW(static_cast<void>(BaseTable::read(folder_.path() / "Todo.tab")), EngineError);
 }
 
-// Cutting any of a table's files short gives an error or a shorter table, and never more than was there.
-TEST_F(BaseTableTest, survivesFilesCutShort) {
-  const fs::path whole = folder_.path() / "Entera.tab";
-  testing_tables::writeTab(
-      whole, "Earth Projection 1, 104", [](OGRLayer& layer) { addColumn(layer, "Nombre", OFTString, 30); },
-      [](OGRLayer& layer) {
-        for (int i = 0; i < 40; ++i) {
-          const OGRFeatureUniquePtr feature(OGRFeature::CreateFeature(layer.GetLayerDefn()));
-          feature->SetField(0, std::to_string(i).c_str());
-          OGRLinearRing ring;
-          for (int k = 0; k < 30; ++k) ring.addPoint(i + (k % 7), 40 + k * 0.1);
-          ring.closeRings();
-          OGRPolygon polygon;
-          polygon.addRing(&ring);
-          feature->SetGeometry(&polygon);
-          addRow(layer, *feature);
-        }
-      });
-  const fs::path cutFolder = folder_.path() / "cortada";
-  int failures = 0;
-  for (const char* extension : {".tab", ".dat", ".map", ".id"}) {
-    const fs::path cut = (cutFolder / "Entera").replace_extension(extension);
-    const std::uintmax_t size = fs::file_size(fs::path(whole).replace_extension(extension));
-    for (std::uintmax_t part = 0; part < 24; ++part) {
-      fs::remove_all(cutFolder);
-      fs::create_directory(cutFolder);
-      for (const char* other : {".tab", ".dat", ".map", ".id"}) {
-        fs::copy_file(fs::path(whole).replace_extension(other), (cutFolder / "Entera").replace_extension(other));
-      }
-      fs::resize_file(cut, size * part / 24);
-      try {
-        EXPECT_LE(BaseTable::read(cutFolder / "Entera.tab")->rowCount(), 40U) << extension << part;
-      } catch (const EngineError&) {
-        ++failures;
-      }
-    }
-  }
-  EXPECT_GT(failures, 40);
-}
-
-TEST_F(BaseTableTest, survivesMifFilesCutShort) {
-  const std::string mif = std::string(kMifHead) + mifRows(3);
-  const std::string row = "\"1999\",\"x\",1,1,T,19990131\n";
-  for (std::size_t length = 0; length < mif.size(); length += 3) {
-    try {
-      EXPECT_LE(readMif(mif.substr(0, length), row + row + row)->rowCount(), 3U) << length;
-    } catch (const EngineError& error) {
-      EXPECT_NE(std::string(error.what()).find("tabla.mif"), std::string::npos);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace motor

@@ -1,6 +1,7 @@
 #include "motor/tables/box_tree.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 
@@ -8,9 +9,16 @@ namespace motor {
 namespace {
 
 constexpr std::size_t kFanOut = 8;
+constexpr std::size_t kMostLevels = 11;  // of as many boxes as a 32-bit number counts
+constexpr std::size_t kMostOpen = kMostLevels * kFanOut;
 
 double middleX(const Box& box) { return box.minX + box.maxX; }
 double middleY(const Box& box) { return box.minY + box.maxY; }
+
+// Box::intersects for two that are not empty.
+bool meets(const Box& a, const Box& b) {
+  return (a.minX <= b.maxX) & (b.minX <= a.maxX) & (a.minY <= b.maxY) & (b.minY <= a.maxY);
+}
 
 // Orders items so that each run of kFanOut lies close together: strips by x, inside a strip by y.
 void sortIntoTiles(std::vector<std::uint32_t>& items, const std::vector<Box>& boxes) {
@@ -58,17 +66,18 @@ void BoxTree::packLevel(std::size_t begin, std::size_t end, bool leaves) {
 
 std::vector<std::uint32_t> BoxTree::find(const Box& area) const {
   std::vector<std::uint32_t> found;
-  std::vector<std::uint32_t> open;
-  if (!nodes_.empty()) open.push_back(static_cast<std::uint32_t>(nodes_.size() - 1));
-  while (!open.empty()) {
-    const Node& node = nodes_[open.back()];
-    open.pop_back();
-    if (!node.box.intersects(area)) continue;
+  found.reserve(kFanOut);                     // a point is in few boxes
+  std::array<std::uint32_t, kMostOpen> open;  // nodes that meet the area, to be looked into
+  std::size_t count = 0;
+  if (nodes_.empty() || !nodes_.back().box.intersects(area)) return found;
+  open[count++] = static_cast<std::uint32_t>(nodes_.size() - 1);
+  while (count > 0) {
+    const Node& node = nodes_[open[--count]];
     for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
-      if (!node.leaf) {
-        open.push_back(i);
-      } else if (boxes_[i].intersects(area)) {
-        found.push_back(items_[i]);
+      if (node.leaf) {
+        if (meets(boxes_[i], area)) found.push_back(items_[i]);
+      } else if (meets(nodes_[i].box, area)) {
+        open[count++] = i;
       }
     }
   }

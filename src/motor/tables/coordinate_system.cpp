@@ -31,7 +31,7 @@ std::string nameOf(OGRSpatialReferenceH system) {
 
 }  // namespace
 
-// The definitions of the process, made once for each text they are asked for by and never thrown away.
+// The definitions of the process, made once for each text they are asked for by; so many are kept.
 class DefinitionCache {
  public:
   using DefinitionPtr = std::shared_ptr<const CoordinateSystem::Definition>;
@@ -58,6 +58,8 @@ class DefinitionCache {
   }
 
  private:
+  static constexpr std::size_t kMostKept = 1000;
+
   template <typename Import>
   static DefinitionPtr cached(const std::string& text, Import import) {
     static std::mutex mutex;
@@ -71,6 +73,7 @@ class DefinitionCache {
       throw EngineError("No se entiende el sistema de coordenadas «" + text.substr(1) + "»");
     }
     const DefinitionPtr made = define(system.get());
+    if (definitions.size() >= kMostKept) definitions.clear();
     definitions.emplace(text, made);
     return made;
   }

@@ -38,11 +38,22 @@ TypePlace typePlace(const std::string& line) {
   return {begin, end};
 }
 
+// The first bytes of a file, in which the columns stand.
+std::string headOf(const std::filesystem::path& file) {
+  constexpr std::uintmax_t kLongest = 256 * 1024;
+  std::error_code missing;
+  const std::uintmax_t size = std::filesystem::file_size(file, missing);
+  if (missing) return {};
+  std::string head(static_cast<std::size_t>(std::min(size, kLongest)), '\0');
+  std::ifstream(file, std::ios::binary).read(head.data(), static_cast<std::streamsize>(head.size()));
+  return head;
+}
+
 }  // namespace
 
 std::vector<std::string> declaredTypes(const std::filesystem::path& file) {
+  std::istringstream input(headOf(file));
   std::vector<std::string> types;
-  std::ifstream input(file, std::ios::binary);
   std::string line;
   std::size_t count = 0;
   while (count == 0 && std::getline(input, line)) count = columnCount(line);

@@ -15,37 +15,24 @@ std::vector<Part> partsOf(const MapObject& object) {
   return parts;
 }
 
-bool isOnSegment(Point a, Point b, Point p) {
-  const double cross = (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
-  return cross == 0 && p.x >= std::min(a.x, b.x) && p.x <= std::max(a.x, b.x) && p.y >= std::min(a.y, b.y) &&
-         p.y <= std::max(a.y, b.y);
-}
-
 // Whether the horizontal line through `y` crosses the segment; its lower end belongs to it, its upper end does not.
 bool crosses(Point a, Point b, double y) { return (a.y > y) != (b.y > y); }
 
 double crossingX(Point a, Point b, double y) { return a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x); }
 
-enum class Side { outside, inside, border };
-
-Side sideOf(const MapObject& object, const std::vector<Part>& rings, Point p) {
-  bool inside = false;
+PointSide sideOf(const MapObject& object, const std::vector<Part>& rings, Point p) {
+  PointSide side(p);
   for (const auto& [begin, end] : rings) {
-    for (std::size_t i = begin; i + 1 < end; ++i) {
-      const Point a = object.points[i];
-      const Point b = object.points[i + 1];
-      if (isOnSegment(a, b, p)) return Side::border;
-      if (crosses(a, b, p.y) && p.x < crossingX(a, b, p.y)) inside = !inside;
-    }
+    for (std::size_t i = begin; i + 1 < end; ++i) side.pass({object.points[i], object.points[i + 1]});
   }
-  return inside ? Side::inside : Side::outside;
+  return side;
 }
 
 // Whether ring `inner` lies in ring `outer`, told by the first of its points that is not on the outer's border.
 bool liesIn(const MapObject& object, Part inner, Part outer) {
   for (std::size_t i = inner.first; i < inner.second; ++i) {
-    const Side side = sideOf(object, {outer}, object.points[i]);
-    if (side != Side::border) return side == Side::inside;
+    const PointSide side = sideOf(object, {outer}, object.points[i]);
+    if (!side.isOnBorder()) return side.isCovered();
   }
   return false;
 }
@@ -120,7 +107,7 @@ Point regionCentroid(const MapObject& object) {
   const std::vector<Part> polygon = largestPolygon(object);
   const Point candidate = areaCentroid(object, polygon);
   if (!std::isfinite(candidate.x) || !std::isfinite(candidate.y)) return object.points.front();
-  if (sideOf(object, polygon, candidate) != Side::outside) return candidate;
+  if (sideOf(object, polygon, candidate).isCovered()) return candidate;
   return middleOfWidestSpan(object, candidate.y, object.points.front());
 }
 
@@ -175,7 +162,13 @@ void Box::add(const Box& other) {
 
 bool contains(const MapObject& object, Point p) {
   if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
-  return sideOf(object, partsOf(object), p) != Side::outside;
+  PointSide side(p);
+  for (std::size_t part = 0; part < object.partCount(); ++part) {
+    for (std::size_t i = object.parts[part]; i + 1 < object.partEnd(part); ++i) {
+      side.pass({object.points[i], object.points[i + 1]});
+    }
+  }
+  return side.isCovered();
 }
 
 Point centroid(const MapObject& object) {

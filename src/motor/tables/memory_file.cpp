@@ -8,6 +8,8 @@
 namespace motor {
 
 std::string bytesOf(const std::filesystem::path& file) {
+  std::error_code ignored;
+  if (!std::filesystem::is_regular_file(file, ignored)) return {};
   std::ifstream input(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(input), {}};
 }

@@ -5,7 +5,7 @@
 
 namespace motor {
 
-// All of a file; nothing of one that cannot be read.
+// All of a file; nothing of one that cannot be read, or that is a pipe or a device.
 [[nodiscard]] std::string bytesOf(const std::filesystem::path& file);
 
 // A file in memory that the format library reads under a name (`/vsimem/...`), while this lives.

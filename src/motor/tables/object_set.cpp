@@ -73,4 +73,13 @@ std::vector<std::uint32_t> ObjectSet::objectsIn(const Box& area) const {
   return tree_->find(area);
 }
 
+bool ObjectSet::covers(std::uint32_t index, Point p) const {
+  const MapObject& object = *objects_[index];
+  if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
+  if (regions_.empty()) regions_.resize(objects_.size());
+  std::shared_ptr<const RegionIndex>& region = regions_[index];
+  if (region == nullptr) region = std::make_shared<const RegionIndex>(object);
+  return region->contains(p);
+}
+
 }  // namespace motor

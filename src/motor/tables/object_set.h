@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
 
 #include "motor/language/value.h"
 #include "motor/tables/box_tree.h"
+#include "motor/tables/region_index.h"
 #include "motor/tables/table.h"
 
 namespace motor {
@@ -35,6 +37,8 @@ class ObjectSet {
   [[nodiscard]] const Box& bounds() const { return bounds_; }
   // The objects whose bounds meet `area`, ascending.
   [[nodiscard]] std::vector<std::uint32_t> objectsIn(const Box& area) const;
+  // Whether a region covers a point, as contains() has it; false for other objects. For one that is asked often.
+  [[nodiscard]] bool covers(std::uint32_t index, Point p) const;
 
  private:
   void groupRows();
@@ -45,7 +49,8 @@ class ObjectSet {
   std::vector<RowId> rows_;             // object after object
   std::vector<std::uint32_t> rowEnds_;  // of each object in rows_
   Box bounds_;
-  mutable std::optional<BoxTree> tree_;  // made when first asked
+  mutable std::optional<BoxTree> tree_;                              // made when first asked
+  mutable std::vector<std::shared_ptr<const RegionIndex>> regions_;  // of those asked so far
 };
 
 }  // namespace motor

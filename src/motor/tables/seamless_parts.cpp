@@ -4,11 +4,13 @@
 #include <atomic>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <sstream>
 #include <string>
 
 #include "motor/tables/gdal.h"
 #include "motor/tables/memory_file.h"
+#include "motor/tables/ogr_errors.h"
 #include "motor/tables/read_failure.h"
 #include "platform/paths.h"
 #include "text/utf8.h"
@@ -29,6 +31,9 @@ struct Definition {
 };
 
 Definition definitionOf(const fs::path& file) {
+  constexpr std::uintmax_t kLongest = 4 * 1024 * 1024;  // bytes
+  std::error_code ignored;
+  if (fs::is_regular_file(file, ignored) && fs::file_size(file, ignored) > kLongest) failDamaged(file);
   Definition definition;
   std::istringstream lines(bytesOf(file));
   std::string line;
@@ -70,11 +75,12 @@ std::vector<fs::path> viewTables(const fs::path& file) {
 
 }  // namespace
 
-std::vector<fs::path> allParts(const fs::path& file) {
+std::vector<fs::path> allParts(const fs::path& file, const std::function<bool(const fs::path&)>& mayRead) {
   std::vector<fs::path> parts{file};
   for (std::size_t next = 0; next < parts.size(); ++next) {
     for (const auto& named : {seamlessParts(parts[next]), viewTables(parts[next])}) {
       for (const fs::path& part : named) {
+        if (!mayRead(part)) failForbidden(part);
         if (std::find(parts.begin(), parts.end(), part) == parts.end()) parts.push_back(part);
       }
     }
@@ -88,6 +94,7 @@ std::vector<fs::path> seamlessParts(const fs::path& file) {
   if (text::lower(utf8Of(file.extension())) != ".tab") return {};
   const Definition definition = definitionOf(file);
   if (!definition.isSeamless) return {};
+  const OgrErrors quiet;
   const fs::path data = platform::machinePath(utf8Of(fs::path(file).replace_extension(".dat")));
   static std::atomic<int> copies = 0;
   const std::string name = "/vsimem/seamless_" + std::to_string(++copies);
@@ -100,11 +107,13 @@ std::vector<fs::path> seamlessParts(const fs::path& file) {
   const OGRLayerH layer = library.GDALDatasetGetLayer(dataset.get(), 0);
   if (library.OGR_FD_GetFieldCount(library.OGR_L_GetLayerDefn(layer)) == 0) failDamaged(file);
   std::vector<fs::path> parts;
+  std::set<fs::path> known;
   while (const GdalFeature row{library.OGR_L_GetNextFeature(layer)}) {
     parts.push_back(
         platform::machinePath(utf8Of(file.parent_path()) + "/" + library.OGR_F_GetFieldAsString(row.get(), 0)));
+    if (!known.insert(parts.back()).second) failDamaged(file);
   }
-  if (parts.empty()) failDamaged(file);
+  if (parts.empty() || quiet.failed()) failDamaged(file);
   return parts;
 }
 

@@ -110,12 +110,6 @@ class Selection {
 
   [[nodiscard]] std::size_t count() const { return rows_.front().size(); }
 
-  [[nodiscard]] RowTuple tuple(std::size_t index) const {
-    RowTuple tuple;
-    for (const std::vector<RowId>& rows : rows_) tuple.push_back(rows[index]);
-    return tuple;
-  }
-
   [[nodiscard]] std::vector<Value> evaluateAll(const Expression& expression) {
     std::vector<Value> values;
     values.reserve(count());
@@ -176,8 +170,8 @@ class Selection {
   void collectMembers(const RowGroups& groups, const std::vector<std::uint32_t>& order) {
     std::vector<std::uint32_t> place(order.size());
     for (std::size_t i = 0; i < order.size(); ++i) place[order[i]] = static_cast<std::uint32_t>(i);
-    members_.resize(order.size());
-    for (std::size_t i = 0; i < count(); ++i) members_[place[groups.groupOf[i]]].push_back(tuple(i));
+    members_.assign(order.size(), RowGroup(rows_.size()));
+    for (std::size_t i = 0; i < count(); ++i) members_[place[groups.groupOf[i]]].add(rows_, i);
   }
 
   void keepRows(const std::vector<std::uint32_t>& indexes) {
@@ -265,9 +259,9 @@ class Selection {
   std::vector<SelectTable> tables_;
   SelectScope scope_;
   std::vector<OutputColumn> columns_;
-  std::vector<std::vector<RowId>> rows_;        // by table; entries of equal index belong together
-  std::vector<std::vector<RowTuple>> members_;  // by row, when there are aggregates: the rows of its group
-  std::vector<std::vector<Value>> computed_;    // by column; empty for a table's own
+  std::vector<std::vector<RowId>> rows_;      // by table; entries of equal index belong together
+  std::vector<RowGroup> members_;             // by row, when there are aggregates: the rows of its group
+  std::vector<std::vector<Value>> computed_;  // by column; empty for a table's own
 };
 
 }  // namespace

@@ -93,9 +93,9 @@ void SelectScope::check(const Expression& expression) const {
   for (const Expression* child : expression.children()) check(*child);
 }
 
-void SelectScope::setGroup(const std::vector<RowTuple>* group) {
+void SelectScope::setGroup(const RowGroup* group) {
   group_ = group;
-  if (group != nullptr && !group->empty()) rows_ = group->front();
+  if (group != nullptr && group->size() > 0) goTo((*group)[0]);
 }
 
 Value SelectScope::name(const NameReference& reference) const {
@@ -131,14 +131,34 @@ bool SelectScope::related(SpatialRelation relation, const ObjectPtr& left, const
   return motor::related(relation, *left, *right);
 }
 
-double SelectScope::numberAt(const ExpressionPtr& expression, const RowTuple& tuple, bool& present) const {
-  rows_ = tuple;
-  const Value value = expression->evaluate(*this);
-  present = !value.isEmpty();
-  if (present && value.number() == nullptr) {
-    throw LanguageError(expression->position(), "función de grupo", "se esperaba un número");
+const std::vector<double>* SelectScope::columnBehind(const Expression& expression) const {
+  const auto* reference = dynamic_cast<const NameReference*>(&expression);
+  if (reference == nullptr || bound(*reference).kind != RowBinding::Kind::column) return nullptr;
+  const RowBinding& binding = bound(*reference);
+  const BaseTable* base = tables_[binding.table].base;
+  return base == nullptr ? nullptr : base->numbers(binding.column);
+}
+
+std::vector<double> SelectScope::numbersOf(const Expression& expression) const {
+  std::vector<double> numbers;
+  numbers.reserve(group_->size());
+  if (const std::vector<double>* column = columnBehind(expression)) {
+    const std::size_t table = bound(dynamic_cast<const NameReference&>(expression)).table;
+    for (std::size_t i = 0; i < group_->size(); ++i) numbers.push_back((*column)[(*group_)[i][table] - 1]);
+    return numbers;
   }
-  return present ? *value.number() : 0;
+  for (std::size_t i = 0; i < group_->size(); ++i) {
+    goTo((*group_)[i]);
+    const Value value = expression.evaluate(*this);
+    if (!value.isEmpty() && value.number() == nullptr) {
+      throw LanguageError(expression.position(), "función de grupo", "se esperaba un número");
+    }
+    // A number that is none is a fault of the expression, which the sum shows.
+    const double number = value.isEmpty() ? 0 : *value.number();
+    numbers.push_back(value.isEmpty() ? std::nan("") : std::isnan(number) ? HUGE_VAL : number);
+  }
+  if (group_->size() > 0) goTo((*group_)[0]);
+  return numbers;
 }
 
 Value SelectScope::aggregate(const Aggregate& aggregate) const {
@@ -148,17 +168,18 @@ Value SelectScope::aggregate(const Aggregate& aggregate) const {
   double weights = 0;
   double least = std::numeric_limits<double>::infinity();
   double greatest = -least;
-  for (const RowTuple& tuple : *group_) {
-    bool present = false;
-    const double number = numberAt(aggregate.value(), tuple, present);
-    if (!present) continue;
-    const double weight = aggregate.weight() ? numberAt(aggregate.weight(), tuple, present) : 1;
+  const std::vector<double> numbers = numbersOf(*aggregate.value());
+  const std::vector<double> weighing = aggregate.weight() ? numbersOf(*aggregate.weight()) : std::vector<double>();
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const double number = numbers[i];
+    if (std::isnan(number)) continue;
+    double weight = weighing.empty() ? 1 : weighing[i];
+    if (std::isnan(weight)) weight = 0;
     total += number * weight;
     weights += weight;
     least = std::min(least, number);
     greatest = std::max(greatest, number);
   }
-  if (!group_->empty()) rows_ = group_->front();
   if (!std::isfinite(total)) {
     throw LanguageError(aggregate.position(), "función de grupo", "el resultado no es un número finito");
   }

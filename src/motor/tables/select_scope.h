@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -32,6 +33,25 @@ struct RowBinding {
 // The rows of a Select's tables taken together, one row of each; by table.
 using RowTuple = std::vector<RowId>;
 
+// Tuples that belong together, one after the other in one piece of memory.
+class RowGroup {
+ public:
+  explicit RowGroup(std::size_t tables = 1) : tables_(tables) {}
+
+  // Adds the rows that stand at `index` in each table's.
+  void add(const std::vector<std::vector<RowId>>& rowsByTable, std::size_t index) {
+    for (const std::vector<RowId>& rows : rowsByTable) rows_.push_back(rows[index]);
+  }
+  [[nodiscard]] std::size_t size() const { return rows_.size() / tables_; }
+  [[nodiscard]] std::span<const RowId> operator[](std::size_t index) const {
+    return {rows_.data() + index * tables_, tables_};
+  }
+
+ private:
+  std::size_t tables_;
+  std::vector<RowId> rows_;
+};
+
 // Names and functions inside a Select: columns of the current rows first, then whatever the session knows.
 class SelectScope final : public Scope {
  public:
@@ -51,8 +71,8 @@ class SelectScope final : public Scope {
 
   // The rows that names refer to from now on, also one of them alone.
   void setRow(std::size_t table, RowId row) { rows_[table] = row; }
-  // The rows that aggregates run over, as tuples; names refer to the first of them.
-  void setGroup(const std::vector<RowTuple>* group);
+  // The rows that aggregates run over; names refer to the first of them.
+  void setGroup(const RowGroup* group);
 
   [[nodiscard]] const std::vector<SelectTable>& tables() const { return tables_; }
   [[nodiscard]] const SelectContext& context() const { return context_; }
@@ -73,12 +93,16 @@ class SelectScope final : public Scope {
   [[nodiscard]] RowBinding bindIn(std::size_t table, const NameReference& reference) const;
   [[nodiscard]] const RowBinding& bound(const NameReference& reference) const;
   [[nodiscard]] ObjectPtr objectInSession(std::size_t table, const ObjectPtr& object) const;
-  [[nodiscard]] double numberAt(const ExpressionPtr& expression, const RowTuple& tuple, bool& present) const;
+  // The number of each tuple of the group, NaN where there is none.
+  [[nodiscard]] std::vector<double> numbersOf(const Expression& expression) const;
+  // A table's own column of numbers, where an expression is no more than that; else null.
+  [[nodiscard]] const std::vector<double>* columnBehind(const Expression& expression) const;
+  void goTo(std::span<const RowId> tuple) const { rows_.assign(tuple.begin(), tuple.end()); }
 
   const std::vector<SelectTable>& tables_;
   SelectContext context_;
   mutable RowTuple rows_;
-  const std::vector<RowTuple>* group_ = nullptr;
+  const RowGroup* group_ = nullptr;
   mutable std::unordered_map<const NameReference*, RowBinding> bindings_;
   mutable std::unordered_map<const MapObject*, ObjectPtr> transformed_;
   mutable std::unordered_map<const SelectStatement*, ValueSet> subselects_;

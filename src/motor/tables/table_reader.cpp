@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "motor/tables/declared_columns.h"
+#include "motor/tables/files_of_table.h"
 #include "motor/tables/gdal.h"
 #include "motor/tables/object_pool.h"
 #include "motor/tables/ogr_errors.h"
@@ -227,8 +228,7 @@ class Reader {
 };
 
 void readFile(const std::filesystem::path& file, const OgrErrors& errors, Reader& reader) {
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(file, ignored)) failMissing(file);
+  refuseUnreadable(file);
   const ReadableFile readable(file);
   const char* const drivers[] = {"MapInfo File", nullptr};
   const GdalDataset dataset(

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "motor/tables/files_of_table.h"
 #include "motor/tables/read_failure.h"
 #include "motor/tables/seamless_parts.h"
 #include "platform/paths.h"
@@ -12,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // The files that make up a table besides its own.
-constexpr std::array kCompanions = {".dat", ".dbf", ".map", ".id", ".mid"};
+constexpr std::array kCompanions = {".dat", ".dbf", ".map", ".id", ".ind", ".mid"};
 
 void addFilesOf(const fs::path& file, std::vector<fs::path>& files) {
   files.push_back(file);
@@ -23,9 +24,20 @@ void addFilesOf(const fs::path& file, std::vector<fs::path>& files) {
   }
 }
 
-void refuseForbidden(const std::vector<fs::path>& parts, const TableStore::MayRead& mayRead) {
+// What reading a table reads besides its own file.
+std::vector<fs::path> otherFiles(const fs::path& table, const std::vector<fs::path>& parts) {
+  std::vector<fs::path> others = filesOfTable(table);
+  others.erase(others.begin());
   for (const fs::path& part : parts) {
-    if (!mayRead(part)) failForbidden(part);
+    const std::vector<fs::path> ofPart = filesOfTable(part);
+    others.insert(others.end(), ofPart.begin(), ofPart.end());
+  }
+  return others;
+}
+
+void refuseForbidden(const std::vector<fs::path>& files, const TableStore::MayRead& mayRead) {
+  for (const fs::path& file : files) {
+    if (!mayRead(file)) failForbidden(file);
   }
 }
 
@@ -43,16 +55,17 @@ std::shared_ptr<const BaseTable> TableStore::open(const fs::path& file, const Ma
   const std::scoped_lock lock(mutex_);
   if (const auto known = entries_.find(key); known != entries_.end()) {
     if (stampsOf(known->second.files) == known->second.stamps) {
-      refuseForbidden(known->second.parts, mayRead);
+      refuseForbidden(known->second.read, mayRead);
       return known->second.table;
     }
     entries_.erase(known);
   }
   Entry entry;
-  entry.parts = allParts(key);
-  refuseForbidden(entry.parts, mayRead);
+  const std::vector<fs::path> parts = allParts(key, mayRead);
+  entry.read = otherFiles(key, parts);
+  refuseForbidden(entry.read, mayRead);
   addFilesOf(key, entry.files);
-  for (const fs::path& part : entry.parts) addFilesOf(part, entry.files);
+  for (const fs::path& part : parts) addFilesOf(part, entry.files);
   entry.stamps = stampsOf(entry.files);
   entry.table = BaseTable::read(key);
   return entries_.emplace(std::move(key), std::move(entry)).first->second.table;

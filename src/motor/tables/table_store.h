@@ -23,8 +23,8 @@ class TableStore {
   // Whether a file may be read.
   using MayRead = std::function<bool(const std::filesystem::path&)>;
 
-  // The table in a TAB or MIF file (machine path), and in the files that this one is put together from, each of which
-  // is one that `mayRead`. Throws EngineError with a clear message when it cannot be read.
+  // The table in a TAB or MIF file (machine path), and in the files beside it and those that it is put together from,
+  // each of which is one that `mayRead`. Throws EngineError with a clear message when it cannot be read.
   [[nodiscard]] std::shared_ptr<const BaseTable> open(
       const std::filesystem::path& file, const MayRead& mayRead = [](const auto&) { return true; });
 
@@ -41,8 +41,8 @@ class TableStore {
     bool operator==(const Stamp&) const = default;
   };
   struct Entry {
-    std::vector<std::filesystem::path> parts;  // the tables that it is put together from
-    std::vector<std::filesystem::path> files;  // its own, theirs, and those beside them
+    std::vector<std::filesystem::path> read;   // the files it was read from, besides its own
+    std::vector<std::filesystem::path> files;  // its own, those beside it and those of its parts, there or not
     std::vector<Stamp> stamps;
     std::shared_ptr<const BaseTable> table;
   };

@@ -80,14 +80,13 @@ class PartsTest : public testing::Test {
 };
 
 TEST_F(PartsTest, areReadOnlyWhereTheyMayBe) {
-  std::vector<fs::path> asked;
+  std::vector<std::string> asked;
   const auto refuse = [&](const fs::path& file) {
-    asked.push_back(fs::weakly_canonical(file));
-    return false;
+    asked.push_back(fs::weakly_canonical(file).filename().string());
+    return !asked.back().starts_with("Norte");
   };
-  const std::vector<fs::path> part{fs::canonical(folder_.path() / "Norte.tab")};
   EXPECT_THROW(static_cast<void>(store_.open(whole_, refuse)), EngineError);
-  EXPECT_EQ(asked, part);
+  EXPECT_EQ(asked, std::vector<std::string>{"Norte.tab"});
   const auto table = store_.open(whole_);
   EXPECT_EQ(table->value(1, 0), Value("Soria"));
   // Another session may read less, though the table is known by now.
@@ -108,9 +107,9 @@ TEST_F(PartsTest, ofAViewAreThoseItOpens) {
   folder_.write("Vista.tab",
                 "!table\n!version 100\nOpen Table \"Norte\" Hide\nOpen table \"dentro\\todo.TAB\" Hide\n"
                 "Create View Vista As\nSelect Nombre From Norte, Todo\n");
-  EXPECT_EQ(allParts(folder_.path() / "Vista.tab").size(), 3U);
   std::vector<std::string> names;
-  for (const fs::path& part : allParts(folder_.path() / "Vista.tab")) names.push_back(part.filename().string());
+  const auto any = [](const fs::path&) { return true; };
+  for (const fs::path& part : allParts(folder_.path() / "Vista.tab", any)) names.push_back(part.filename().string());
   EXPECT_EQ(names, (std::vector<std::string>{"Norte.tab", "Todo.tab", "Norte.tab"}));
 }
 

@@ -28,7 +28,9 @@ class TemporaryFolder {
 
   [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
+  // A file that is written over goes to the disk at once, which takes long; so it is written anew.
   std::filesystem::path write(const std::string& name, const std::string& bytes) const {
+    std::filesystem::remove(path_ / name);
     std::ofstream(path_ / name, std::ios::binary) << bytes;
     return path_ / name;
   }

@@ -42,7 +42,9 @@ TransformationsByWkt afterTheLibrary() {
 
 // Making a transformation takes milliseconds, and one must not be used by two threads at a time.
 OgrTransformation transformationOfThread(const std::string& fromWkt, const std::string& toWkt) {
+  constexpr std::size_t kMostKept = 100;
   thread_local TransformationsByWkt known = afterTheLibrary();
+  if (known.size() >= kMostKept) known.clear();
   const auto [entry, isNew] = known.try_emplace({fromWkt, toWkt});
   if (isNew) entry->second = createTransformation(fromWkt, toWkt);
   return entry->second;

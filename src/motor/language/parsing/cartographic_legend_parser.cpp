@@ -43,9 +43,9 @@ void ignoreUsing(TokenStream& stream, LegendFrame& /*frame*/) {
   if (stream.acceptWord("label") && !stream.acceptWord("default")) static_cast<void>(parseExpression(stream));
 }
 
-template <typename Part>
-void ignoreBorder(TokenStream& stream, Part& /*part*/) {
-  static_cast<void>(parseStyleClause(stream, StyleClause::Kind::pen));
+template <auto kField, typename Part>
+void readBorder(TokenStream& stream, Part& part) {
+  part.*kField = parseStyleClause(stream, StyleClause::Kind::pen);
 }
 
 // t [Font (...)]
@@ -64,7 +64,7 @@ constexpr std::array kFrameRules = {
     FrameRule{"title", Support::done, readText<&LegendFrame::title>},
     FrameRule{"subtitle", Support::done, readText<&LegendFrame::subtitle>},
     FrameRule{"style", Support::done, readSamples},
-    FrameRule{"border", Support::passedOver, ignoreBorder<LegendFrame>},
+    FrameRule{"border", Support::done, readBorder<&LegendFrame::border>},
     FrameRule{"using", Support::passedOver, ignoreUsing},
 };
 
@@ -90,7 +90,7 @@ constexpr std::array kRules = {
     Rule{"default frame title", Support::done, readText<&Legend::defaultTitle>},
     Rule{"default frame subtitle", Support::done, readText<&Legend::defaultSubtitle>},
     Rule{"default frame style", Support::done, readText<&Legend::defaultStyle>},
-    Rule{"default frame border", Support::passedOver, ignoreBorder<Legend>},
+    Rule{"default frame border", Support::done, readBorder<&Legend::defaultBorder>},
     Rule{"default", Support::incomplete, failDefault},
     Rule{"window title", Support::passedOver, ignoreExpression<Legend>},
     Rule{"scrollbars", Support::passedOver, ignoreSwitch<Legend>},

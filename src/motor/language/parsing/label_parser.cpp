@@ -73,8 +73,10 @@ void readVisibility(TokenStream& stream, LabelClause& label) {
 }
 
 // Max [n]: without a number there is no limit.
-void ignoreMaximum(TokenStream& stream, LabelClause& /*label*/) {
-  if (stream.peek().kind == Token::Kind::number || stream.isSign("(")) static_cast<void>(parseOperand(stream));
+void readMaximum(TokenStream& stream, LabelClause& label) {
+  label.saysMaximum = true;
+  const bool isLimited = stream.peek().kind == Token::Kind::number || stream.isSign("(");
+  label.maximum = isLimited ? parseOperand(stream) : nullptr;
 }
 
 using Rule = ClauseRule<LabelClause>;
@@ -100,7 +102,7 @@ constexpr std::array kRules = {
     Rule{"parallel", Support::done, readSwitch<&LabelClause::parallel>},
     Rule{"follow path", Support::passedOver, ignoreSwitch<LabelClause>},
     Rule{"partialsegments", Support::passedOver, ignoreSwitch<LabelClause>},
-    Rule{"max", Support::passedOver, ignoreMaximum},
+    Rule{"max", Support::done, readMaximum},
     Rule{"object", Support::done, readObject},
 };
 

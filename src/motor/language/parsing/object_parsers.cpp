@@ -52,6 +52,11 @@ Statement parseTwoPoints(TokenStream& stream, Position position, CreateObject::K
   return object;
 }
 
+template <TextJustify kJustify>
+void readJustify(TokenStream& /*stream*/, CreateObject& object) {
+  object.justify = kJustify;
+}
+
 void ignorePoint(TokenStream& stream, CreateObject& /*object*/) { static_cast<void>(parseCoordinatePair(stream)); }
 
 using Rule = ClauseRule<CreateObject>;
@@ -72,10 +77,10 @@ constexpr std::array kTextRules = {
          [](TokenStream& stream, CreateObject& object) { addStyle(object.style, parseStyleArguments(stream)); },
          isStyleNext},
     Rule{"angle", Support::done, readExpression<&CreateObject::angle>},
-    Rule{"spacing", Support::passedOver, ignoreExpression<CreateObject>},
-    Rule{"justify left", Support::done, readNothing<CreateObject>},
-    Rule{"justify center", Support::passedOver, readNothing<CreateObject>},
-    Rule{"justify right", Support::passedOver, readNothing<CreateObject>},
+    Rule{"spacing", Support::done, readExpression<&CreateObject::spacing>},
+    Rule{"justify left", Support::done, readJustify<TextJustify::left>},
+    Rule{"justify center", Support::done, readJustify<TextJustify::center>},
+    Rule{"justify right", Support::done, readJustify<TextJustify::right>},
     Rule{"label line simple", Support::passedOver, ignorePoint},
     Rule{"label line arrow", Support::passedOver, ignorePoint},
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "motor/language/statements/parts.h"
+#include "motor/language/styles.h"
 
 namespace motor {
 
@@ -15,7 +16,9 @@ struct CreateObject {
   std::vector<std::vector<CoordinatePair>> parts;  // one part but for Pline Multiple and Region
   std::vector<ExpressionPtr> angles;  // of an arc, start and end, degrees; of a rounded rectangle, rounding
   ExpressionPtr text;
-  ExpressionPtr angle;  // of a text, degrees
+  ExpressionPtr angle;    // of a text, degrees
+  ExpressionPtr spacing;  // from line to line, as a multiple of their height
+  TextJustify justify = TextJustify::left;
   StyleList style;
 };
 

@@ -54,6 +54,8 @@ struct LabelClause {
   std::optional<bool> overlap;
   std::optional<bool> duplicates;
   ExpressionPtr offset;  // points
+  bool saysMaximum = false;
+  ExpressionPtr maximum;  // of labels; with `saysMaximum`, none: no limit
   std::vector<CustomLabel> objects;
 };
 

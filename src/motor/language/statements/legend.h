@@ -72,6 +72,7 @@ struct LegendFrame {
   FrameText title;
   FrameText subtitle;
   std::optional<StyleClause> sampleFont;
+  std::optional<StyleClause> border;
   std::vector<LegendSample> samples;
 };
 
@@ -83,6 +84,7 @@ struct CreateCartographicLegend {
   FrameText defaultTitle;
   FrameText defaultSubtitle;
   FrameText defaultStyle;
+  std::optional<StyleClause> defaultBorder;
   std::vector<LegendFrame> frames;
 };
 
