@@ -4,7 +4,7 @@
 #include <string>
 
 #include "atlas/atlas.h"
-#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/embedded/embedded_engine.h"
 #include "hosts/headless/fake_programs.h"
 #include "hosts/headless/fake_registry.h"
 #include "hosts/headless/fake_windows.h"

@@ -188,18 +188,19 @@ void startedAgain(benchmark::internal::Benchmark* benchmark) {
 void startWithSplash(benchmark::State& state) {
   constexpr int kWait = 2000;  // milliseconds
   for (auto _ : state) {
-    state.SetIterationTime(figures::secondsOf({programs / "first_map", study, std::to_string(kWait)}) - kWait / 1000.0);
+    state.SetIterationTime(figures::secondsToFirstLine({programs / "first_map", study, std::to_string(kWait)}) -
+                           kWait / 1000.0);
   }
 }
 BENCHMARK(startWithSplash)->Apply(startedAgain);
 
 void startAtOnce(benchmark::State& state) {
-  for (auto _ : state) state.SetIterationTime(figures::secondsOf({programs / "first_map", study, "0"}));
+  for (auto _ : state) state.SetIterationTime(figures::secondsToFirstLine({programs / "first_map", study, "0"}));
 }
 BENCHMARK(startAtOnce)->Apply(startedAgain);
 
 void bareQtWindow(benchmark::State& state) {
-  for (auto _ : state) state.SetIterationTime(figures::secondsOf({programs / "bare_window"}));
+  for (auto _ : state) state.SetIterationTime(figures::secondsToFirstLine({programs / "bare_window"}));
 }
 BENCHMARK(bareQtWindow)->Apply(startedAgain);
 

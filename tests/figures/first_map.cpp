@@ -1,7 +1,6 @@
 // The program from its start to the first painted map:
-//   first_map APPFOLDER WAIT      double-clicks the splash away after WAIT milliseconds; ends when the statistics map
-//   has
-//                                 been painted
+//   first_map APPFOLDER WAIT      double-clicks the splash away after WAIT milliseconds; prints a line when the
+//                                 statistics map has been painted
 //   first_map APPFOLDER memory    double-clicks it away at once, opens the map of a year, and prints the megabytes that
 //                                 the program takes
 
@@ -56,7 +55,7 @@ int main(int argc, char** argv) {
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
     if (!isMapPainted()) return;
-    if (asksMemory) std::cout << residentMegabytes() << std::endl;
+    std::cout << (asksMemory ? residentMegabytes() : 0.0) << std::endl;
     std::_Exit(0);
   });
   const auto leaveSplash = [&] {

@@ -10,30 +10,47 @@
 namespace figures {
 namespace {
 
-// Runs a command line to its end; what it printed.
-std::string outputOf(const std::vector<std::filesystem::path>& command) {
+struct Close {
+  void operator()(FILE* stream) const { pclose(stream); }
+};
+using Output = std::unique_ptr<FILE, Close>;
+
+Output start(const std::vector<std::filesystem::path>& command) {
   std::string line = "exec";
   for (const auto& word : command) line += " '" + word.string() + "'";
-  struct Close {
-    void operator()(FILE* stream) const { pclose(stream); }
-  };
-  std::unique_ptr<FILE, Close> stream(popen(line.c_str(), "r"));
-  if (!stream) throw std::runtime_error("cannot start " + command.front().string());
-  std::string output;
-  std::array<char, 256> buffer{};
-  while (std::fgets(buffer.data(), buffer.size(), stream.get()) != nullptr) output += buffer.data();
-  if (pclose(stream.release()) != 0) throw std::runtime_error("failed: " + line);
+  Output output(popen(line.c_str(), "r"));
+  if (!output) throw std::runtime_error("cannot start " + command.front().string());
   return output;
+}
+
+// The first line that the program prints; it is empty where it prints none.
+std::string firstLine(FILE* output) {
+  std::array<char, 256> buffer{};
+  return std::fgets(buffer.data(), buffer.size(), output) == nullptr ? "" : buffer.data();
+}
+
+void awaitEnd(Output output, const std::filesystem::path& program) {
+  while (!firstLine(output.get()).empty()) continue;
+  if (pclose(output.release()) != 0) throw std::runtime_error("failed: " + program.string());
 }
 
 }  // namespace
 
-double secondsOf(const std::vector<std::filesystem::path>& command) {
-  const auto start = std::chrono::steady_clock::now();
-  (void)outputOf(command);
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+double secondsToFirstLine(const std::vector<std::filesystem::path>& command) {
+  const auto begin = std::chrono::steady_clock::now();
+  Output output = start(command);
+  const bool answered = !firstLine(output.get()).empty();
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+  awaitEnd(std::move(output), command.front());
+  if (!answered) throw std::runtime_error("says nothing: " + command.front().string());
+  return seconds;
 }
 
-double reportedNumber(const std::vector<std::filesystem::path>& command) { return std::stod(outputOf(command)); }
+double reportedNumber(const std::vector<std::filesystem::path>& command) {
+  Output output = start(command);
+  const std::string line = firstLine(output.get());
+  awaitEnd(std::move(output), command.front());
+  return std::stod(line);
+}
 
 }  // namespace figures
