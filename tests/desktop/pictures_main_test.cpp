@@ -4,20 +4,23 @@
 #include <memory>
 
 #include "hosts/desktop/desktop_program.h"
+#include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/screen_picture.h"
 
 // One toolkit application for all tests of this program, on a screen of the size and scale that most of its pictures
-// are for.
+// are for; with VELDORIA_SMALL_SCREEN on one that has no room for the program at its usual size.
 namespace {
 
 constexpr QSize kScreen(1920, 1080);
+constexpr QSize kSmallScreen(800, 600);
 
 class Application : public ::testing::Environment {
  public:
   void SetUp() override {
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble();
-    screen_ = std::make_unique<desktop::UnseenScreen>(kScreen, scale > 0 ? scale : 1);
-    application_ = std::make_unique<QApplication>(argc_, argv_);
+    const QSize size = qEnvironmentVariableIsSet("VELDORIA_SMALL_SCREEN") ? kSmallScreen : kScreen;
+    screen_ = std::make_unique<desktop::UnseenScreen>(size, scale > 0 ? scale : 1);
+    application_ = desktop::makeApplication(argc_, argv_);
     desktop::prepareApplication(*application_);
   }
   void TearDown() override {

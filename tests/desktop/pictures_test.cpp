@@ -83,8 +83,11 @@ TEST_P(ModePictures, Tables) {
   expectMode("tablas");
 }
 
+std::string atWidth(const ::testing::TestParamInfo<QSize>& size) { return "At" + std::to_string(size.param.width()); }
+
 INSTANTIATE_TEST_SUITE_P(Sizes, ModePictures, ::testing::Values(QSize(1024, 768), QSize(1440, 900), QSize(1920, 1080)),
-                         [](const auto& size) { return "At" + std::to_string(size.param.width()); });
+                         atWidth);
+INSTANTIATE_TEST_SUITE_P(SmallScreen, ModePictures, ::testing::Values(QSize(800, 600)), atWidth);
 
 // --- what else is seen ---
 

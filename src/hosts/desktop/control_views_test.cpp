@@ -46,7 +46,7 @@ class ControlViews : public ::testing::Test {
     QTest::mouseClick(&row, Qt::LeftButton, Qt::NoModifier, row.tabRect(index).center());
   }
 
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QTemporaryDir folder;
   QtHost host{calls, handles, folder.path().toStdString()};

@@ -7,12 +7,14 @@
 #include <QTranslator>
 
 #include "atlas/shell/frm_inicio.h"
+#include "atlas/shell/frm_principal.h"
 #include "atlas/shell/statistics_workspace.h"
 #include "hosts/desktop/proposed_files.h"
 #include "hosts/desktop/rehearsal.h"
 #include "hosts/desktop/spanish_words.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/toolkit_dialogs.h"
+#include "motor/drawing/symbol_pictures.h"
 #include "platform/paths.h"
 
 namespace desktop {
@@ -63,6 +65,7 @@ DesktopProgram::DesktopProgram(const std::string& applicationFolder, DesktopProg
       registry_(programs),
       programs_(programs),
       dialogs_(host_, machineFiles_) {
+  motor::useSymbolsOf(platform::machinePath(applicationFolder));
   calls_.ended = [this] {
     over_ = true;
     QCoreApplication::quit();
@@ -86,10 +89,9 @@ void DesktopProgram::start() {
   rehearsal_.setSingleShot(true);
   QObject::connect(&rehearsal_, &QTimer::timeout, &rehearsal_, [this] {
     const std::string& folder = atlas_->ports.applicationFolder;
-    if (atlas_->frmInicio().isLoaded()) {
-      rehearse(platform::machinePath(folder + std::string(atlas::kStatisticsWorkspace)).string(),
-               engineOptions(folder));
-    }
+    if (!atlas_->frmInicio().isLoaded()) return;
+    rehearse(platform::machinePath(folder + std::string(atlas::kStatisticsWorkspace)).string(), engineOptions(folder));
+    host_.prepare(atlas_->frmPrincipal());
   });
   rehearsal_.start(kSplashIsShown);
 }

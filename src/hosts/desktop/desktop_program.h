@@ -5,7 +5,6 @@
 #include <string>
 
 #include "atlas/atlas.h"
-#include "hosts/desktop/ports/answered_engines.h"
 #include "hosts/desktop/ports/desktop_files.h"
 #include "hosts/desktop/ports/desktop_registry.h"
 #include "hosts/desktop/ports/qt_dialogs.h"
@@ -15,6 +14,7 @@
 #include "hosts/desktop/ports/user_programs.h"
 #include "hosts/desktop/qt_host.h"
 #include "hosts/headless/headless_files.h"
+#include "hosts/screen/answered_engines.h"
 #include "motor/session/session.h"
 #include "motor/window/qt_windows.h"
 
@@ -41,16 +41,16 @@ class DesktopProgram {
 
   [[nodiscard]] QtHost& host() { return host_; }
   [[nodiscard]] atlas::Atlas& atlas() { return *atlas_; }
-  [[nodiscard]] ProgramCalls& calls() { return calls_; }
+  [[nodiscard]] screen::ProgramCalls& calls() { return calls_; }
   // Whether the program has ended: at once, or with its last window.
   [[nodiscard]] bool isOver() const { return over_; }
 
  private:
-  ProgramCalls calls_;
+  screen::ProgramCalls calls_;
   motor::WidgetHandles handles_;
   motor::QtWindows mapWindows_{handles_};
   motor::SessionService sessions_;
-  AnsweredEngines engines_{sessions_, calls_};
+  screen::AnsweredEngines engines_{sessions_, calls_};
   QtHost host_;
   QtWindowSystem windows_{host_, handles_};
   QtMessages messages_{host_};

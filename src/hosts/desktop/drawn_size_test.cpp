@@ -43,7 +43,7 @@ TEST(DrawnSize, IsTheUsualOneWhereThereIsRoom) {
 TEST(DrawnSize, ASmallScreenHoldsTheWorkingWindowWithItsFrame) {
   for (const QSize screen : {QSize(800, 600), QSize(1024, 600), QSize(640, 480)}) {
     setOwnScale(drawnSizeFor(screen, 1).own);
-    const QRect place = firstPlace(FormLook::window, {scaled(1024), scaled(768)}, {QPoint(0, 0), screen});
+    const QRect place = firstPlace(screen::FormLook::window, {scaled(1024), scaled(768)}, {QPoint(0, 0), screen});
     setOwnScale(1);
     EXPECT_LE(place.width() + 16, screen.width());
     EXPECT_LE(place.height() + 40, screen.height());
@@ -58,7 +58,7 @@ TEST_F(OwnScale, LengthsAndLettersAreDrawnSmallerAndThoseOfPaperAreNot) {
 }
 
 TEST_F(OwnScale, AFormAndItsControlsShrinkTogether) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host(calls, handles);
   testing::TestForm form(host);

@@ -19,17 +19,18 @@
 #include "hosts/desktop/views/tab_row.h"
 #include "hosts/desktop/views/view_factory.h"
 #include "hosts/desktop/window_placement.h"
+#include "hosts/screen/pop_up_frames.h"
 
 namespace desktop {
 namespace {
 
-Qt::WindowFlags flagsOf(FormLook look) {
+Qt::WindowFlags flagsOf(screen::FormLook look) {
   switch (look) {
-    case FormLook::splash:
+    case screen::FormLook::splash:
       return Qt::SplashScreen | Qt::FramelessWindowHint;
-    case FormLook::palette:
+    case screen::FormLook::palette:
       return Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint;
-    case FormLook::window:
+    case screen::FormLook::window:
       break;
   }
   return Qt::Window;
@@ -37,20 +38,20 @@ Qt::WindowFlags flagsOf(FormLook look) {
 
 }  // namespace
 
-FormWindow::FormWindow(forms::Form& form, ProgramCalls& calls, QWidget* owner)
-    : QWidget(lookOf(form) == FormLook::palette ? owner : nullptr, flagsOf(lookOf(form))),
-      form_(form),
+FormWindow::FormWindow(forms::Form& form, screen::ProgramCalls& calls, QWidget* owner)
+    : QWidget(screen::lookOf(form) == screen::FormLook::palette ? owner : nullptr, flagsOf(screen::lookOf(form))),
+      FormDisplay(form),
       calls_(calls),
-      look_(lookOf(form)),
+      look_(screen::lookOf(form)),
       popUps_(
           *this, form, [this](const QWidget& widget) { return controlOf(widget); }, [this] { pointAtForm(); }) {
   setObjectName(QString::fromStdString(form.name()));
   setWindowTitle(QString::fromStdString(form.caption()));
   setWindowIcon(artwork::icon("escudo"));
   setMouseTracking(true);
-  if (look_ == FormLook::splash) setAttribute(Qt::WA_TranslucentBackground);
+  if (look_ == screen::FormLook::splash) setAttribute(Qt::WA_TranslucentBackground);
   makeViews();
-  if (look_ == FormLook::palette) new PaletteFront(*this);  // owned by this
+  if (look_ == screen::FormLook::palette) new PaletteFront(*this);  // owned by this
 }
 
 FormWindow::~FormWindow() { views_.clear(); }
@@ -69,6 +70,11 @@ void FormWindow::makeViews() {
   }
 }
 
+void FormWindow::syncAll() {
+  setWindowTitle(QString::fromStdString(form_.caption()));
+  for (const auto& view : views_) view->syncAll();
+}
+
 ControlView* FormWindow::viewOf(const forms::Control& control) const {
   const auto found = viewOf_.find(&control);
   return found == viewOf_.end() ? nullptr : found->second;
@@ -83,8 +89,8 @@ const forms::Control* FormWindow::controlOf(const QWidget& widget) const {
   return nullptr;
 }
 
-void FormWindow::visibilityWritten(const forms::Control& control) {
-  if (isPopUp(control)) popUps_.update();
+void FormWindow::controlWritten(const forms::Control& control, forms::Property property) {
+  if (property == forms::Property::Visible && screen::isPopUp(control)) popUps_.update();
 }
 
 void FormWindow::syncForm(forms::Property property) {
@@ -103,31 +109,10 @@ void FormWindow::syncForm(forms::Property property) {
   }
 }
 
-void FormWindow::turnPages() {
-  bool turned = false;
-  for (const auto& view : views_) {
-    auto* tabs = dynamic_cast<TabControlView*>(view.get());
-    if (tabs == nullptr || !tabs->isBehind()) continue;
-    tabs->sync(forms::Property::Tab);
-    turned = true;
-  }
-  if (!turned) return;
-  for (const auto& view : views_) {
-    if (view->control().container() != nullptr) view->syncVisible();
-  }
-}
-
-void FormWindow::syncChoices() {
-  turnPages();
-  using enum forms::Property;
-  for (const auto& view : views_) {
-    for (const auto property : {ListIndex, Value, SelectedItem, Tab}) view->sync(property);
-  }
-}
-
-void FormWindow::paintNow(const ControlView& view, forms::Property written) {
-  if (!isVisible() || !view.paintsAtOnce() || view.widget() == nullptr || !view.widget()->isVisible()) return;
-  if (written == forms::Property::Value) return view.widget()->repaint();
+void FormWindow::paintNow(const forms::Control& control, forms::Property written) {
+  const ControlView* view = viewOf(control);
+  if (!isVisible() || view == nullptr || view->widget() == nullptr || !view->widget()->isVisible()) return;
+  if (written == forms::Property::Value) return view->widget()->repaint();
   if (written != forms::Property::Visible) return;
   QRegion region = rect();
   for (const auto& other : views_) {
@@ -135,11 +120,11 @@ void FormWindow::paintNow(const ControlView& view, forms::Property written) {
     if (isMap && other->widget()->isVisible()) region -= other->widget()->geometry();
   }
   repaint(region);
-  view.widget()->repaint();
+  view->widget()->repaint();
 }
 
 void FormWindow::markCurrentTool(const std::string& command) {
-  const std::string picture = pictureOfCommand(command);
+  const std::string picture = screen::pictureOfCommand(command);
   for (const auto& view : views_) {
     if (auto* image = dynamic_cast<ImageView*>(view.get())) image->setCurrentPicture(picture);
   }
@@ -158,7 +143,7 @@ void FormWindow::closeWithOwner() {
 // The keyboard begins where nothing is started by a key pressed too early.
 void FormWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (look_ == FormLook::palette) move(onScreen(pos(), frameGeometry().size(), screen()->availableGeometry()));
+  if (look_ == screen::FormLook::palette) move(onScreen(pos(), frameGeometry().size(), screen()->availableGeometry()));
   if (focusWidget() != nullptr) return;
   if (QWidget* first = firstChoice(*this)) first->setFocus(Qt::OtherFocusReason);
 }
@@ -207,7 +192,7 @@ void FormWindow::changeEvent(QEvent* event) {
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
-  if (look_ == FormLook::splash) return;
+  if (look_ == screen::FormLook::splash) return;
   QPainter painter(this);
   painter.fillRect(rect(), theme::kPaper);
 }
@@ -232,7 +217,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   const bool control = event->modifiers().testFlag(Qt::ControlModifier);
   switch (event->key()) {
     case Qt::Key_Escape:
-      if (look_ != FormLook::palette) {
+      if (look_ != screen::FormLook::palette) {
         pointAtForm();
       } else {
         close();

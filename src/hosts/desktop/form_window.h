@@ -7,36 +7,31 @@
 #include <vector>
 
 #include "forms/form.h"
-#include "hosts/desktop/looks.h"
 #include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/views/control_view.h"
+#include "hosts/screen/displays.h"
+#include "hosts/screen/looks.h"
 
 namespace desktop {
 
 // A form on the screen: its controls as widgets, back to front, and the window's own events.
-class FormWindow : public QWidget {
+class FormWindow : public QWidget, public screen::FormDisplay {
  public:
   // `owner` is the window that this one stays in front of, or null.
-  FormWindow(forms::Form& form, ProgramCalls& calls, QWidget* owner);
+  FormWindow(forms::Form& form, screen::ProgramCalls& calls, QWidget* owner);
   ~FormWindow() override;
 
-  [[nodiscard]] forms::Form& form() const { return form_; }
-  // The view of a control; null for one that is never seen.
-  [[nodiscard]] ControlView* viewOf(const forms::Control& control) const;
+  [[nodiscard]] ControlView* viewOf(const forms::Control& control) const override;
 
-  // A property of the form itself was written.
-  void syncForm(forms::Property property);
-  // Turns the pages that the model has turned.
-  void turnPages();
-  // Shows what the user's own action changed in the model.
-  void syncChoices();
-  // A control has been shown or hidden.
-  void visibilityWritten(const forms::Control& control);
+  // Shows all that the form and its controls hold.
+  void syncAll();
+  void syncForm(forms::Property property) override;
+  void controlWritten(const forms::Control& control, forms::Property property) override;
   // The window goes because its owner goes.
   void closeWithOwner();
-  // Paints at once what the view shows, without an event loop; all but the map where the view has just appeared.
-  void paintNow(const ControlView& view, forms::Property written);
-  void markCurrentTool(const std::string& command);
+  // All but the map is painted where the control has just appeared.
+  void paintNow(const forms::Control& control, forms::Property written) override;
+  void markCurrentTool(const std::string& command) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -61,9 +56,8 @@ class FormWindow : public QWidget {
   void reportPlace();
   [[nodiscard]] bool isListening() const { return form_.isLoaded(); }
 
-  forms::Form& form_;
-  ProgramCalls& calls_;
-  FormLook look_;
+  screen::ProgramCalls& calls_;
+  screen::FormLook look_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::map<const forms::Control*, ControlView*> viewOf_;
   PopUpMenus popUps_;

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QLabel>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -29,7 +31,7 @@ class FormWindows : public ::testing::Test {
   [[nodiscard]] FormWindow& window() { return *host.windowOf(form); }
   [[nodiscard]] QWidget& widget(const forms::Control& control) { return *window().viewOf(control)->widget(); }
 
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host{calls, handles};
   QtWindowSystem windows{host, handles};
@@ -69,6 +71,37 @@ TEST_F(FormWindows, ClosingUnloadsTheForm) {
   hands::settle();
   EXPECT_TRUE(shown.isNull());
   EXPECT_EQ(host.windowOf(form), nullptr);
+}
+
+TEST_F(FormWindows, APreparedWindowServesTheNextLoad) {
+  testing::TestForm other(host, "frmOtra");
+  host.prepare(other);
+  hands::settle();
+  EXPECT_EQ(host.windowOf(other), nullptr);
+  EXPECT_EQ(QApplication::activeWindow(), &window());
+  EXPECT_EQ(other.take(), Events{});
+
+  other.Load.add([&] { other.plain.setCaption("Cargada"); });
+  calls.run([&] { other.show(); });
+  hands::settle();
+  ASSERT_NE(host.windowOf(other), nullptr);
+  EXPECT_TRUE(host.windowOf(other)->isVisible());
+  EXPECT_EQ(host.windowOf(other)->size(), QSize(600, 500));
+  EXPECT_EQ(qobject_cast<QLabel*>(host.windowOf(other)->viewOf(other.plain)->widget())->text(), "Cargada");
+
+  host.windowOf(other)->close();
+  hands::settle();
+  calls.run([&] { other.show(); });
+  EXPECT_TRUE(host.windowOf(other)->isVisible());
+}
+
+TEST_F(FormWindows, WithAPreparedWindowTheLastOneStillEndsTheHost) {
+  testing::TestForm other(host, "frmOtra");
+  host.prepare(other);
+  bool ended = false;
+  calls.ended = [&] { ended = true; };
+  window().close();
+  EXPECT_TRUE(ended);
 }
 
 TEST_F(FormWindows, TheLastWindowEndsTheHost) {
@@ -180,20 +213,21 @@ TEST_F(FormWindows, APaletteStaysInFrontOfTheWorkingWindow) {
 
 TEST(FirstPlace, UsesTheScreen) {
   const QRect hd(0, 0, 1920, 1040);
-  EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, hd).size(), QSize(1766, 957));
-  EXPECT_EQ(firstPlace(FormLook::splash, {480, 320}, hd), QRect(720, 360, 480, 320));
+  EXPECT_EQ(firstPlace(screen::FormLook::window, {1024, 768}, hd).size(), QSize(1766, 957));
+  EXPECT_EQ(firstPlace(screen::FormLook::splash, {480, 320}, hd), QRect(720, 360, 480, 320));
 }
 
 TEST(FirstPlace, LeavesRoomForTheFrameOnASmallScreen) {
   for (const QRect& screen : {QRect(0, 0, 1024, 768), QRect(0, 28, 1024, 740), QRect(0, 0, 1366, 768)}) {
-    const QRect place = firstPlace(FormLook::window, {1024, 768}, screen);
+    const QRect place = firstPlace(screen::FormLook::window, {1024, 768}, screen);
     EXPECT_TRUE(screen.contains(QRect(place.topLeft(), place.size() + QSize(16, 40)))) << screen.width();
-    EXPECT_EQ(place.size().expandedTo(smallestSize(FormLook::window)), place.size());
+    EXPECT_EQ(place.size().expandedTo(smallestSize(screen::FormLook::window)), place.size());
   }
 }
 
 TEST(FirstPlace, IsNeverTooSmallForWhatLiesInTheWindow) {
-  EXPECT_EQ(firstPlace(FormLook::window, {1024, 768}, QRect(0, 0, 640, 480)).size(), smallestSize(FormLook::window));
+  EXPECT_EQ(firstPlace(screen::FormLook::window, {1024, 768}, QRect(0, 0, 640, 480)).size(),
+            smallestSize(screen::FormLook::window));
 }
 
 TEST(FirstPlace, IsSeenWholeOnUsualScreens) {
@@ -204,14 +238,14 @@ TEST(FirstPlace, IsSeenWholeOnUsualScreens) {
   for (const Case& each : {Case{{0, 0, 1024, 768}, {1008, 728}}, Case{{0, 0, 1024, 728}, {1008, 688}},
                            Case{{0, 0, 1280, 760}, {1178, 720}}, Case{{0, 27, 1440, 873}, {1325, 803}},
                            Case{{66, 27, 1854, 1053}, {1706, 969}}, Case{{0, 0, 2560, 1400}, {2355, 1288}}}) {
-    const QRect place = firstPlace(FormLook::window, {1024, 768}, each.screen);
+    const QRect place = firstPlace(screen::FormLook::window, {1024, 768}, each.screen);
     EXPECT_EQ(place.size(), each.size) << each.screen.width();
     EXPECT_TRUE(each.screen.contains(QRect(place.topLeft(), place.size() + QSize(16, 40)))) << each.screen.width();
   }
 }
 
 TEST(PaletteSize, EndsALittleBeyondItsControls) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host(calls, handles);
   const testing::TestForm form(host, "frmTematicos");
@@ -231,24 +265,24 @@ TEST(ScaleFor, MakesRoomForTheWindow) {
   EXPECT_EQ(scaleFor({1920, 1040}), 1);
   const double scale = scaleFor({960, 500});  // 1920 by 1000 at 200 %
   EXPECT_LT(scale, 1);
-  EXPECT_GE(QSize(QSizeF(960, 500).toSize() / scale).height(), smallestSize(FormLook::window).height());
+  EXPECT_GE(QSize(QSizeF(960, 500).toSize() / scale).height(), smallestSize(screen::FormLook::window).height());
   EXPECT_EQ(scaleFor({100, 100}), 0.5);
 }
 
 TEST(FirstSize, TheWorkingWindowCannotBeMadeTooSmall) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host(calls, handles);
   testing::TestForm form(host);
   form.show();
   host.windowOf(form)->resize(300, 200);
   hands::settle();
-  EXPECT_EQ(host.windowOf(form)->size(), smallestSize(FormLook::window));
+  EXPECT_EQ(host.windowOf(form)->size(), smallestSize(screen::FormLook::window));
   host.closeAll();
 }
 
 TEST(ProgramCallsTest, TheEndOfTheProgramStopsEverything) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   int ended = 0;
   calls.ended = [&] { ++ended; };
   bool later = false;
@@ -263,7 +297,7 @@ TEST(ProgramCallsTest, TheEndOfTheProgramStopsEverything) {
 }
 
 TEST(ProgramCallsTest, AFailureWithoutATrapIsShown) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   std::string shown;
   calls.failed = [&](const std::string& description) { shown = description; };
   calls.run([] { throw failures::noObject(); });
@@ -272,7 +306,7 @@ TEST(ProgramCallsTest, AFailureWithoutATrapIsShown) {
 }
 
 TEST(ProgramCallsTest, WhatWaitsRunsAfterTheCall) {
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   std::string order;
   calls.returned = [&] { order += "r"; };
   calls.run([&] {

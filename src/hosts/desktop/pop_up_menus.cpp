@@ -4,32 +4,12 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QSinglePointEvent>
-#include <algorithm>
 #include <utility>
 
-#include "forms/label.h"
 #include "hosts/desktop/keyboard_focus.h"
+#include "hosts/screen/pop_up_frames.h"
 
 namespace desktop {
-
-bool isPopUp(const forms::Control& control) {
-  if (control.container() != nullptr || dynamic_cast<const forms::Frame*>(&control) == nullptr) return false;
-  return std::ranges::any_of(control.form().controls(),
-                             [&control](const forms::Control* other) { return other->container() == &control; });
-}
-
-int openPopUps(const forms::Form& form) {
-  return static_cast<int>(std::ranges::count_if(
-      form.controls(), [](const forms::Control* control) { return control->visible() && isPopUp(*control); }));
-}
-
-void pointAt(forms::Control& control) {
-  control.userMouseMove();
-  forms::Form& form = control.form();
-  if (openPopUps(form) < 2) return;
-  form.userMouseMove();
-  control.userMouseMove();
-}
 
 PopUpMenus::PopUpMenus(QWidget& window, forms::Form& form,
                        std::function<const forms::Control*(const QWidget&)> controlOf, std::function<void()> close)
@@ -37,7 +17,7 @@ PopUpMenus::PopUpMenus(QWidget& window, forms::Form& form,
 
 void PopUpMenus::update() {
   qApp->removeEventFilter(this);
-  if (openPopUps(form_) > 0) qApp->installEventFilter(this);
+  if (screen::openPopUps(form_) > 0) qApp->installEventFilter(this);
 }
 
 // What has a handler of its own is left to it.
@@ -46,7 +26,7 @@ bool PopUpMenus::isOutside(const QWidget* widget) const {
   if (control == nullptr) return true;
   if (control->MouseMove.hasHandlers()) return false;
   while (control->container() != nullptr) control = control->container();
-  return !isPopUp(*control);
+  return !screen::isPopUp(*control);
 }
 
 // An event that a widget lets pass is seen again at its parents: where the pointer is counts, not who hears of it.

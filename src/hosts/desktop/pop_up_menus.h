@@ -8,15 +8,6 @@
 
 namespace desktop {
 
-// Whether the control is a pop-up frame: one that lies on the form itself and holds controls.
-[[nodiscard]] bool isPopUp(const forms::Control& control);
-// How many pop-up frames of the form are visible.
-[[nodiscard]] int openPopUps(const forms::Form& form);
-
-// The pointer comes to the control. One pop-up frame is open at a time: where the control's handler opens another one
-// beside it, the pointer first crosses the form, which closes both, and comes to the control again.
-void pointAt(forms::Control& control);
-
 // Watches over a form's pop-up frames while one is open. The program closes them when the pointer is on the form or on
 // some of its controls; to users everything that is not the menu is the form: the other controls, the windows that lie
 // in them or in front, Escape, and what is clicked.

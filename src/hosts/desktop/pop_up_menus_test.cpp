@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 #include "hosts/desktop/shown_form.h"
+#include "hosts/screen/pop_up_frames.h"
 
 namespace desktop {
 namespace {
@@ -138,12 +139,12 @@ class TwoMenus : public forms::Form {
 TEST_F(PopUps, OneIsOpenAtATime) {
   TwoMenus menus(host);
   menus.show();
-  pointAt(menus.first);
+  screen::pointAt(menus.first);
   EXPECT_TRUE(menus.firstFrame.visible());
-  pointAt(menus.second);
+  screen::pointAt(menus.second);
   EXPECT_FALSE(menus.firstFrame.visible());
   EXPECT_TRUE(menus.secondFrame.visible());
-  EXPECT_EQ(openPopUps(menus), 1);
+  EXPECT_EQ(screen::openPopUps(menus), 1);
   menus.unload();
   hands::settle();
 }

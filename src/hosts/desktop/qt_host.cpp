@@ -1,10 +1,10 @@
 #include "hosts/desktop/qt_host.h"
 
 #include <QApplication>
+#include <QPixmap>
 #include <QScreen>
 #include <utility>
 
-#include "forms/label.h"
 #include "forms/web_browser.h"
 #include "hosts/desktop/twips.h"
 #include "hosts/desktop/views/web_browser_view.h"
@@ -12,14 +12,14 @@
 
 namespace desktop {
 
-QtHost::QtHost(ProgramCalls& calls, motor::WidgetHandles& handles, std::string applicationFolder)
-    : calls_(calls), handles_(handles), applicationFolder_(std::move(applicationFolder)) {
-  calls_.returned = [this] { afterCall(); };
+QtHost::QtHost(screen::ProgramCalls& calls, motor::WidgetHandles& handles, std::string applicationFolder)
+    : DisplayListener(calls), handles_(handles), applicationFolder_(std::move(applicationFolder)) {
+  calls.returned = [this] { afterCall(); };
 }
 
 QtHost::~QtHost() {
   closeAll();
-  calls_.returned = nullptr;
+  calls().returned = nullptr;
 }
 
 FormWindow* QtHost::windowOf(const forms::Form& form) const {
@@ -44,31 +44,54 @@ QWidget* QtHost::frontWindow() const {
 
 void QtHost::closeAll() {
   for (const auto& [form, window] : std::exchange(windows_, {})) delete window.data();
+  prepared_.clear();
+}
+
+void QtHost::prepare(forms::Form& form) {
+  if (windowOf(form) != nullptr || prepared_.contains(&form)) return;
+  auto window = makeWindow(form);
+  window->resize(firstPlaceOf(form).size());
+  window->grab();
+  prepared_[&form] = std::move(window);
 }
 
 void QtHost::formLoaded(forms::Form& form) {
-  QWidget* owner = nullptr;
-  for (const auto& [other, window] : windows_) {
-    if (lookOf(*other) == FormLook::window) owner = window.data();
-  }
-  auto* window = new FormWindow(form, calls_, owner);  // ended by formUnloaded or closeAll
+  FormWindow* window = takeWindow(form).release();  // ended by formUnloaded or closeAll
   windows_[&form] = window;
   place(*window);
+}
+
+std::unique_ptr<FormWindow> QtHost::makeWindow(forms::Form& form) {
+  QWidget* owner = nullptr;
+  for (const auto& [other, window] : windows_) {
+    if (screen::lookOf(*other) == screen::FormLook::window) owner = window.data();
+  }
+  return std::make_unique<FormWindow>(form, calls(), owner);
+}
+
+std::unique_ptr<FormWindow> QtHost::takeWindow(forms::Form& form) {
+  auto prepared = prepared_.extract(&form);
+  if (prepared.empty()) return makeWindow(form);
+  prepared.mapped()->syncAll();
+  return std::move(prepared.mapped());
+}
+
+QRect QtHost::firstPlaceOf(const forms::Form& form) const {
+  if (firstSize_ && screen::lookOf(form) == screen::FormLook::window) return {QPoint(), *firstSize_};
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QSize stored = screen::lookOf(form) == screen::FormLook::palette
+                           ? paletteSize(form)
+                           : QSize(toPixels(form.width()), toPixels(form.height()));
+  return firstPlace(screen::lookOf(form), stored,
+                    screen == nullptr ? QRect(QPoint(), stored) : screen->availableGeometry());
 }
 
 // The layout that the program makes while it loads a form is already that of the window's real size.
 void QtHost::place(FormWindow& window) const {
   forms::Form& form = window.form();
-  const QScreen* screen = QGuiApplication::primaryScreen();
-  const QSize stored =
-      lookOf(form) == FormLook::palette ? paletteSize(form) : QSize(toPixels(form.width()), toPixels(form.height()));
-  QRect place =
-      firstPlace(lookOf(form), stored, screen == nullptr ? QRect(QPoint(), stored) : screen->availableGeometry());
-  if (firstSize_ && lookOf(form) == FormLook::window) {
-    place = QRect(QPoint(), *firstSize_);
-  } else {
-    window.setMinimumSize(smallestSize(lookOf(form)));
-  }
+  const QRect place = firstPlaceOf(form);
+  if (!firstSize_ || screen::lookOf(form) != screen::FormLook::window)
+    window.setMinimumSize(smallestSize(screen::lookOf(form)));
   window.move(place.topLeft());
   window.resize(place.size());
   form.setLeft(toTwips(place.left()));
@@ -101,41 +124,9 @@ void QtHost::formUnloaded(forms::Form& form) {
   windows_.erase(&form);
 }
 
-void QtHost::written(forms::Control& control, forms::Property property) {
-  FormWindow* window = windowOf(control.form());
-  if (window == nullptr) return;
-  if (&control == &control.form()) return window->syncForm(property);
-  window->turnPages();
-  ControlView* view = window->viewOf(control);
-  if (view == nullptr) return;
-  view->sync(property);
-  if (property == forms::Property::Visible) window->visibilityWritten(control);
-  if (const auto* label = dynamic_cast<const forms::Label*>(&control)) {
-    if (property == forms::Property::Caption && control.name() == kCommandLabel) {
-      window->markCurrentTool(label->caption());
-    }
-  }
-  if (calls_.isBusy()) window->paintNow(*view, property);
-}
-
-void QtHost::itemAdded(forms::Control& control, const std::string& item) {
-  if (ControlView* view = viewOf(control)) view->itemAdded(item);
-}
-
-void QtHost::cleared(forms::Control& control) {
-  if (ControlView* view = viewOf(control)) view->cleared();
-}
-
-void QtHost::nodeAdded(forms::TreeView& tree, const forms::Node& node) {
-  if (ControlView* view = viewOf(tree)) view->nodeAdded(node);
-}
-
-void QtHost::nodeExpanded(forms::TreeView& tree, const forms::Node& node) {
-  if (ControlView* view = viewOf(tree)) view->nodeExpanded(node);
-}
-
 void QtHost::navigated(forms::WebBrowser& browser, const std::string& path) {
-  if (ControlView* view = viewOf(browser)) view->navigated(path, applicationFolder_);
+  auto* view = dynamic_cast<WebBrowserView*>(viewOf(browser));
+  if (view != nullptr) view->navigate(path, applicationFolder_);
 }
 
 std::int64_t QtHost::windowHandle(const forms::Control& control) {
@@ -151,17 +142,12 @@ std::string QtHost::locationName(const forms::WebBrowser& browser) {
   return view == nullptr ? "" : view->locationName().toStdString();
 }
 
-ControlView* QtHost::viewOf(const forms::Control& control) const {
-  const FormWindow* window = windowOf(control.form());
-  return window == nullptr ? nullptr : window->viewOf(control);
-}
-
 // The program is over when its last form is gone.
 void QtHost::afterCall() {
   for (const auto& [form, window] : windows_) {
     if (window != nullptr) window->syncChoices();
   }
-  if (windows_.empty() && calls_.ended) calls_.ended();
+  if (windows_.empty() && calls().ended) calls().ended();
 }
 
 }  // namespace desktop

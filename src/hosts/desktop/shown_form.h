@@ -38,7 +38,7 @@ class ShownForm : public ::testing::Test {
     hands::settle();
   }
 
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host{calls, handles};
   TestForm form{host};

@@ -9,11 +9,10 @@
 
 #include "atlas/mapengine/toolbars.h"
 #include "hosts/desktop/artwork.h"
-#include "hosts/desktop/looks.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
-#include "hosts/desktop/views/indicator_tree.h"
 #include "hosts/desktop/views/text_fit.h"
+#include "hosts/screen/looks.h"
 
 namespace desktop {
 namespace {
@@ -57,33 +56,18 @@ TEST(Words, OfTheToolkitAreSpanish) {
   EXPECT_EQ(QString::number(1234.5), "1234.5");
 }
 
-TEST(IndicatorText, SplitsAFigureFromTheEnd) {
-  struct Case {
-    const char* node;
-    const char* text;
-    const char* figure;
-  };
-  for (const Case& each : {Case{"Población: 1.234,5", "Población", "1.234,5"}, Case{"Tasa: -3", "Tasa", "-3"},
-                           Case{"Hombres", "Hombres", ""}, Case{"Tipo: lista", "Tipo: lista", ""},
-                           Case{"a: b: 7", "a: b", "7"}, Case{"a: -", "a: -", ""}}) {
-    const IndicatorText parts = splitIndicator(each.node);
-    EXPECT_EQ(parts.text, each.text);
-    EXPECT_EQ(parts.figure, each.figure);
-  }
-}
-
 TEST(Artwork, EveryToolbarButtonHasItsDrawing) {
   for (const auto toolbar : {atlas::thematicToolbar(), atlas::statisticsToolbar(), atlas::dataToolbar()}) {
     for (const atlas::ToolbarButton& button : toolbar) {
       if (button.picture.empty()) continue;
       EXPECT_TRUE(artwork::has(std::string(button.picture))) << button.picture;
       if (!button.label.empty()) {
-        EXPECT_EQ(pictureOfCommand("Comando actual: " + std::string(button.label)), button.picture);
+        EXPECT_EQ(screen::pictureOfCommand("Comando actual: " + std::string(button.label)), button.picture);
       }
     }
   }
   EXPECT_FALSE(artwork::has("otro"));
-  EXPECT_EQ(pictureOfCommand("Comando actual: otro"), "");
+  EXPECT_EQ(screen::pictureOfCommand("Comando actual: otro"), "");
 }
 
 TEST(Theme, FontsHaveTheSamePixelsEverywhere) {

@@ -108,8 +108,6 @@ QFont font(const forms::FontSpec& spec) { return fontOf(spec, scaled(kPixelsPerP
 
 QFont paperFont(const forms::FontSpec& spec) { return fontOf(spec, kPixelsPerPoint); }
 
-QColor color(forms::Color value) { return {value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF}; }
-
 void paintFocusRing(QPainter& painter, const QRectF& around, double radius) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);

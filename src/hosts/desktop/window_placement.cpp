@@ -14,17 +14,19 @@ constexpr int kPaletteMargin = 8;  // right of its controls and below them
 
 }  // namespace
 
-QSize smallestSize(FormLook look) { return look == FormLook::window ? scaled(kSmallestWindow) : QSize(0, 0); }
+QSize smallestSize(screen::FormLook look) {
+  return look == screen::FormLook::window ? scaled(kSmallestWindow) : QSize(0, 0);
+}
 
-QRect firstPlace(FormLook look, QSize stored, const QRect& screen) {
+QRect firstPlace(screen::FormLook look, QSize stored, const QRect& screen) {
   QSize size = stored;
-  if (look == FormLook::window) {
+  if (look == screen::FormLook::window) {
     size = stored.expandedTo(screen.size() * kShareOfScreen).boundedTo(screen.size() - kUsualFrame);
     size = size.expandedTo(scaled(kSmallestWindow));
   }
   QRect place(QPoint(), size);
   place.moveCenter(screen.center());
-  if (look == FormLook::window) place.translate(-kUsualFrame.width() / 2, -kUsualFrame.height() / 2);
+  if (look == screen::FormLook::window) place.translate(-kUsualFrame.width() / 2, -kUsualFrame.height() / 2);
   place.moveTopLeft({qMax(place.left(), screen.left()), qMax(place.top(), screen.top())});
   return place;
 }

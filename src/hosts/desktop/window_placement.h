@@ -4,18 +4,18 @@
 #include <QSize>
 
 #include "forms/form.h"
-#include "hosts/desktop/looks.h"
+#include "hosts/screen/looks.h"
 
 namespace desktop {
 
 // The smallest size, without its frame, at which a form's window has room for what lies in it; empty where the program
 // does not mind.
-[[nodiscard]] QSize smallestSize(FormLook look);
+[[nodiscard]] QSize smallestSize(screen::FormLook look);
 
 // Where a form's window first stands on the screen, without its frame: the working window uses most of the screen, at
 // least the size it is stored with where there is room for that and a usual frame; the others have their stored size,
 // in the middle.
-[[nodiscard]] QRect firstPlace(FormLook look, QSize stored, const QRect& screen);
+[[nodiscard]] QRect firstPlace(screen::FormLook look, QSize stored, const QRect& screen);
 
 // The size, without its frame, at which a palette ends a little beyond its controls: with its frame it is about as high
 // as it is stored, and what it lies in front of is covered no more than needed.

@@ -52,7 +52,7 @@ class Dialogs : public ::testing::Test {
 
   QTemporaryDir folder;
   headless::HeadlessFiles files;
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host{calls, handles, folder.path().toStdString()};
   std::optional<QtDialogs> dialogs_{std::in_place, host, files};

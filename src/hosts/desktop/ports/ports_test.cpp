@@ -54,7 +54,7 @@ class DesktopPorts : public ::testing::Test {
   DesktopFiles files{machine, programs};
   DesktopRegistry registry{programs};
   QtPrograms starts{programs};
-  ProgramCalls calls;
+  screen::ProgramCalls calls;
   motor::WidgetHandles handles;
   QtHost host{calls, handles};
   QtMessages messages{host};

@@ -5,17 +5,12 @@
 
 #include "hosts/desktop/pages/help_window.h"
 #include "hosts/desktop/proposed_files.h"
+#include "hosts/screen/file_filters.h"
 #include "platform/paths.h"
 #include "text/failure.h"
 #include "text/utf8.h"
 
 namespace desktop {
-namespace {
-
-bool isPattern(const QString& text) { return text.contains(QLatin1Char('*')) || text.contains(QLatin1Char('?')); }
-
-}  // namespace
-
 QtDialogs::QtDialogs(QtHost& host, platform::Files& files) : host_(host), files_(files) {}
 
 QtDialogs::~QtDialogs() = default;
@@ -41,14 +36,11 @@ void QtDialogs::help(const std::string& file, int /*command*/) {
 }
 
 QString toolkitFilter(const std::string& filter) {
-  const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
   QStringList lines;
-  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-    QString description = parts[i];
-    QString patterns = parts[i + 1];
-    if (isPattern(description) && !isPattern(patterns)) std::swap(description, patterns);
-    description = description.left(description.indexOf(QLatin1Char('('))).trimmed();
-    lines += QStringLiteral("%1 (%2)").arg(description, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
+  for (const screen::FileFilter& row : screen::fileFilters(filter)) {
+    lines +=
+        QStringLiteral("%1 (%2)").arg(QString::fromStdString(row.description),
+                                      QString::fromStdString(row.patterns).replace(QLatin1Char(';'), QLatin1Char(' ')));
   }
   return lines.join(QStringLiteral(";;"));
 }

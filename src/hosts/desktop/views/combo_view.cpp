@@ -78,7 +78,7 @@ class Combo : public QComboBox {
 
 }  // namespace
 
-ComboView::ComboView(forms::ItemList& list, QWidget& parent, ProgramCalls& calls)
+ComboView::ComboView(forms::ItemList& list, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(list, calls), list_(list), combo_(new Combo(parent)) {
   combo_->setView(new QListView(combo_));  // the style sheet reaches its items
   combo_->setMaxVisibleItems(kMostRows);

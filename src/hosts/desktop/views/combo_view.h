@@ -10,7 +10,7 @@ namespace desktop {
 // A drop-down list, or a combo that can be typed into.
 class ComboView : public ControlView {
  public:
-  ComboView(forms::ItemList& list, QWidget& parent, ProgramCalls& calls);
+  ComboView(forms::ItemList& list, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
   void itemAdded(const std::string& item) override;
   void cleared() override;

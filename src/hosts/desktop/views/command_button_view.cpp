@@ -4,7 +4,7 @@
 
 namespace desktop {
 
-CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& parent, ProgramCalls& calls)
+CommandButtonView::CommandButtonView(forms::CommandButton& button, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(button, calls), button_(button) {
   auto* shown = new QPushButton(&parent);
   connect(shown, &QPushButton::clicked, this, [this] { act([this] { button_.userClick(); }); });

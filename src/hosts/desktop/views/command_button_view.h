@@ -7,7 +7,7 @@ namespace desktop {
 
 class CommandButtonView : public ControlView {
  public:
-  CommandButtonView(forms::CommandButton& button, QWidget& parent, ProgramCalls& calls);
+  CommandButtonView(forms::CommandButton& button, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
  private:

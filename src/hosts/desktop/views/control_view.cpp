@@ -6,9 +6,9 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "hosts/desktop/keyboard_focus.h"
-#include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/twips.h"
+#include "hosts/screen/pop_up_frames.h"
 
 namespace desktop {
 namespace {
@@ -41,13 +41,6 @@ void ControlView::sync(forms::Property property) {
   }
 }
 
-void ControlView::syncAll() {
-  using enum forms::Property;
-  for (const auto property : {Left, Caption, Text, ListIndex, Value, Tab, SelectedItem, Enabled, Visible}) {
-    sync(property);
-  }
-}
-
 void ControlView::syncVisible() {
   if (widget_ == nullptr) return;
   const forms::Control* container = control_.container();
@@ -69,11 +62,11 @@ void ControlView::watch(QWidget* widget) {
   widget->installEventFilter(this);
 }
 
-void ControlView::act(const ProgramCalls::Action& action) {
+void ControlView::act(const screen::ProgramCalls::Action& action) {
   if (control_.form().isLoaded()) calls_.run(action);
 }
 
-void ControlView::actWhenFree(const ProgramCalls::Action& action) {
+void ControlView::actWhenFree(const screen::ProgramCalls::Action& action) {
   forms::Form& form = control_.form();
   calls_.runWhenFree([&form, action] {
     if (form.isLoaded()) action();
@@ -86,13 +79,13 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Enter:
     case QEvent::MouseMove:
       if (control.MouseMove.hasHandlers() && isOnItself(*static_cast<QWidget*>(watched), *event)) {
-        act([&control] { pointAt(control); });
+        act([&control] { screen::pointAt(control); });
       }
       break;
     case QEvent::FocusIn:
       // The keyboard's way of pointing at something; inside a handler it is the program that moves the focus.
       if (isKeyboardFocus(*static_cast<QFocusEvent*>(event)) && !calls_.isBusy() && control.MouseMove.hasHandlers()) {
-        act([&control] { pointAt(control); });
+        act([&control] { screen::pointAt(control); });
       }
       if (control.GotFocus.hasHandlers() && !isReturningFocus(*static_cast<QFocusEvent*>(event))) {
         actWhenFree([&control] { control.userFocus(); });

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "hosts/desktop/pop_up_menus.h"
 #include "hosts/desktop/theme.h"
+#include "hosts/screen/pop_up_frames.h"
 
 namespace desktop {
 namespace {
@@ -14,7 +14,7 @@ enum class FrameLook { group, popUp, veil };
 
 FrameLook lookOf(const forms::Frame& frame) {
   if (frame.container() != nullptr) return FrameLook::group;
-  return isPopUp(frame) ? FrameLook::popUp : FrameLook::veil;
+  return screen::isPopUp(frame) ? FrameLook::popUp : FrameLook::veil;
 }
 
 class FrameWidget : public QWidget {
@@ -53,7 +53,7 @@ class FrameWidget : public QWidget {
 
 }  // namespace
 
-FrameView::FrameView(forms::Frame& frame, QWidget& parent, ProgramCalls& calls)
+FrameView::FrameView(forms::Frame& frame, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(frame, calls), frame_(frame) {
   adopt(new FrameWidget(lookOf(frame), parent));
 }

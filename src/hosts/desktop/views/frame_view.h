@@ -9,7 +9,7 @@ namespace desktop {
 // group.
 class FrameView : public ControlView {
  public:
-  FrameView(forms::Frame& frame, QWidget& parent, ProgramCalls& calls);
+  FrameView(forms::Frame& frame, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
   [[nodiscard]] bool paintsAtOnce() const override;
 

@@ -5,7 +5,7 @@
 
 namespace desktop {
 
-ImageView::ImageView(forms::Image& image, QWidget& parent, ProgramCalls& calls)
+ImageView::ImageView(forms::Image& image, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(image, calls), image_(image) {
   if (!image.Click.hasHandlers()) {
     adopt(new PictureWidget(image.picture, parent));

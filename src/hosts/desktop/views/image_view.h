@@ -8,7 +8,7 @@ namespace desktop {
 // A picture: a toolbar button where the program listens to clicks on it, else decoration.
 class ImageView : public ControlView {
  public:
-  ImageView(forms::Image& image, QWidget& parent, ProgramCalls& calls);
+  ImageView(forms::Image& image, QWidget& parent, screen::ProgramCalls& calls);
   // Marks the button of the tool in hand.
   void setCurrentPicture(const std::string& picture);
 

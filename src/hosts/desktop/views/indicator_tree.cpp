@@ -12,6 +12,7 @@
 #include "hosts/desktop/keyboard_focus.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/views/context_menu.h"
+#include "hosts/screen/indicator_text.h"
 
 namespace desktop {
 namespace {
@@ -97,25 +98,11 @@ class IndicatorDelegate : public QStyledItemDelegate {
   QTreeWidget& tree_;
 };
 
-bool isFigure(const QString& text) {
-  const auto isSign = [](QChar c) { return c == QLatin1Char('-') || c == QLatin1Char('.') || c == QLatin1Char(','); };
-  bool digits = false;
-  for (const QChar c : text) {
-    if (!c.isDigit() && !isSign(c)) return false;
-    digits = digits || c.isDigit();
-  }
-  return digits;
-}
-
 }  // namespace
 
 IndicatorText splitIndicator(const QString& nodeText) {
-  const QString separator = QStringLiteral(": ");
-  const auto at = nodeText.lastIndexOf(separator);
-  if (at < 0) return {nodeText, {}};
-  const QString tail = nodeText.mid(at + separator.size());
-  if (!isFigure(tail)) return {nodeText, {}};
-  return {nodeText.left(at), tail};
+  const screen::IndicatorText parts = screen::splitIndicator(nodeText.toStdString());
+  return {QString::fromStdString(parts.text), QString::fromStdString(parts.figure)};
 }
 
 IndicatorTree::IndicatorTree(QWidget& parent) : QTreeWidget(&parent) {

@@ -1,15 +1,15 @@
 #include "hosts/desktop/views/label_view.h"
 
-#include "hosts/desktop/looks.h"
 #include "hosts/desktop/views/link_label.h"
 #include "hosts/desktop/views/plain_label.h"
+#include "hosts/screen/looks.h"
 
 namespace desktop {
 
-LabelView::LabelView(forms::Label& label, QWidget& parent, ProgramCalls& calls)
+LabelView::LabelView(forms::Label& label, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(label, calls), label_(label) {
-  const LabelLook look = lookOf(label);
-  if (look == LabelLook::text) {
+  const screen::LabelLook look = screen::lookOf(label);
+  if (look == screen::LabelLook::text) {
     adopt(new PlainLabel(label, parent));
     return;
   }

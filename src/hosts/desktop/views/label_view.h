@@ -8,7 +8,7 @@ namespace desktop {
 // A label: plain text, or, where the program listens to clicks on it, something to be pointed at and clicked.
 class LabelView : public ControlView {
  public:
-  LabelView(forms::Label& label, QWidget& parent, ProgramCalls& calls);
+  LabelView(forms::Label& label, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
  private:

@@ -13,14 +13,14 @@ struct Colors {
   QColor text, hoverText, hoverBack;
 };
 
-Colors colorsOf(LabelLook look) {
+Colors colorsOf(screen::LabelLook look) {
   switch (look) {
-    case LabelLook::menu:
+    case screen::LabelLook::menu:
       return {QColor(0xE9, 0xEE, 0xF6), Qt::white, QColor(255, 255, 255, 36)};
-    case LabelLook::menuEntry:
+    case screen::LabelLook::menuEntry:
       return {theme::kInk, theme::kNavy, theme::kNavyTint};
-    case LabelLook::link:
-    case LabelLook::text:
+    case screen::LabelLook::link:
+    case screen::LabelLook::text:
       break;
   }
   return {theme::kNavy, theme::kAccent, Qt::transparent};
@@ -31,7 +31,7 @@ constexpr int kMenuInset = 5;
 
 }  // namespace
 
-LinkLabel::LinkLabel(LabelLook look, QWidget& parent) : PointedButton(parent), look_(look) {
+LinkLabel::LinkLabel(screen::LabelLook look, QWidget& parent) : PointedButton(parent), look_(look) {
   setCursor(Qt::PointingHandCursor);
 }
 
@@ -42,7 +42,7 @@ void LinkLabel::setCaption(const QString& caption) {
 
 // A menu entry reaches down to the pop-up frame below it; its light stays a little inside.
 QRect LinkLabel::lightRect() const {
-  return look_ == LabelLook::menu ? rect().adjusted(0, scaled(kMenuInset), 0, -scaled(kMenuInset)) : rect();
+  return look_ == screen::LabelLook::menu ? rect().adjusted(0, scaled(kMenuInset), 0, -scaled(kMenuInset)) : rect();
 }
 
 void LinkLabel::paintEvent(QPaintEvent*) {
@@ -55,7 +55,7 @@ void LinkLabel::paintEvent(QPaintEvent*) {
     painter.setBrush(colors.hoverBack);
     painter.drawRoundedRect(QRectF(lightRect()), theme::kRadius, theme::kRadius);
   }
-  const bool entry = look_ == LabelLook::menuEntry;
+  const bool entry = look_ == screen::LabelLook::menuEntry;
   const QRect inside = entry ? rect().adjusted(scaled(kEntryInset), 0, -scaled(kEntryInset), 0) : rect();
   const FittedText fitted = fitText(caption_, font(), inside.size());
   painter.setFont(fitted.font);

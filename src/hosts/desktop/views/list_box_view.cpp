@@ -13,7 +13,7 @@ constexpr int kMargin = 4;  // pixels below the list, to the end of what holds i
 
 }  // namespace
 
-ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, ProgramCalls& calls)
+ListBoxView::ListBoxView(forms::ListBox& list, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(list, calls), list_(list), rows_(new PickList(parent)) {
   connect(rows_, &PickList::picked, this, [this](int row) { act([this, row] { list_.userPick(row); }); });
   adopt(rows_);

@@ -41,7 +41,7 @@ class Option : public QRadioButton {
 
 }  // namespace
 
-OptionView::OptionView(forms::OptionButton& option, QWidget& parent, ProgramCalls& calls)
+OptionView::OptionView(forms::OptionButton& option, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(option, calls), option_(option) {
   auto* button = new Option(&parent);
   button->setAutoExclusive(false);  // the model leaves the others

@@ -9,7 +9,7 @@ namespace desktop {
 // leads to it.
 class OptionView : public ControlView {
  public:
-  OptionView(forms::OptionButton& option, QWidget& parent, ProgramCalls& calls);
+  OptionView(forms::OptionButton& option, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
  private:

@@ -21,7 +21,8 @@ class Sheet : public QWidget {
 
 }  // namespace
 
-PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, ProgramCalls& calls) : ControlView(box, calls) {
+PictureBoxView::PictureBoxView(forms::PictureBox& box, QWidget& parent, screen::ProgramCalls& calls)
+    : ControlView(box, calls) {
   adopt(new Sheet(&parent));
   // The map's ring is that of all else that has the keyboard.
   QPalette colours = widget()->palette();

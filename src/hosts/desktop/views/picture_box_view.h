@@ -8,7 +8,7 @@ namespace desktop {
 // The place of the map: an empty sheet until a map window lies in it.
 class PictureBoxView : public ControlView {
  public:
-  PictureBoxView(forms::PictureBox& box, QWidget& parent, ProgramCalls& calls);
+  PictureBoxView(forms::PictureBox& box, QWidget& parent, screen::ProgramCalls& calls);
 };
 
 }  // namespace desktop

@@ -36,7 +36,7 @@ class Bar : public QProgressBar {
 
 }  // namespace
 
-ProgressBarView::ProgressBarView(forms::ProgressBar& bar, QWidget& parent, ProgramCalls& calls)
+ProgressBarView::ProgressBarView(forms::ProgressBar& bar, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(bar, calls), bar_(bar) {
   auto* shown = new Bar(&parent);
   shown->setRange(0, 100);

@@ -7,7 +7,7 @@ namespace desktop {
 
 class ProgressBarView : public ControlView {
  public:
-  ProgressBarView(forms::ProgressBar& bar, QWidget& parent, ProgramCalls& calls);
+  ProgressBarView(forms::ProgressBar& bar, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
   [[nodiscard]] bool paintsAtOnce() const override { return true; }
 

@@ -3,15 +3,15 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "hosts/desktop/looks.h"
 #include "hosts/desktop/theme.h"
+#include "hosts/screen/looks.h"
 
 namespace desktop {
 namespace {
 
 class ShapeWidget : public QWidget {
  public:
-  ShapeWidget(ShapeLook look, QWidget& parent) : QWidget(&parent), look_(look) {
+  ShapeWidget(screen::ShapeLook look, QWidget& parent) : QWidget(&parent), look_(look) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
   }
 
@@ -20,16 +20,16 @@ class ShapeWidget : public QWidget {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     switch (look_) {
-      case ShapeLook::stage:
+      case screen::ShapeLook::stage:
         painter.fillRect(rect(), theme::kPaper);
         break;
-      case ShapeLook::header:
+      case screen::ShapeLook::header:
         painter.fillRect(rect(), theme::kNavy);
         break;
-      case ShapeLook::line:
+      case screen::ShapeLook::line:
         painter.fillRect(rect(), QColor(255, 255, 255, 60));
         break;
-      case ShapeLook::card:
+      case screen::ShapeLook::card:
         painter.setPen(QPen(theme::kBorder, 1));
         painter.setBrush(theme::kCard);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), theme::kRadius, theme::kRadius);
@@ -38,14 +38,14 @@ class ShapeWidget : public QWidget {
   }
 
  private:
-  ShapeLook look_;
+  screen::ShapeLook look_;
 };
 
 }  // namespace
 
-ShapeView::ShapeView(forms::Shape& shape, QWidget& parent, ProgramCalls& calls)
-    : ControlView(shape, calls), isHeader_(lookOf(shape) == ShapeLook::header) {
-  adopt(new ShapeWidget(lookOf(shape), parent));
+ShapeView::ShapeView(forms::Shape& shape, QWidget& parent, screen::ProgramCalls& calls)
+    : ControlView(shape, calls), isHeader_(screen::lookOf(shape) == screen::ShapeLook::header) {
+  adopt(new ShapeWidget(screen::lookOf(shape), parent));
   if (isHeader_) parent.installEventFilter(this);
 }
 

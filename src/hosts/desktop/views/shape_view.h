@@ -8,7 +8,7 @@ namespace desktop {
 // Decoration; the pointer goes through it. A header reaches over the whole width of its window, whatever its own.
 class ShapeView : public ControlView {
  public:
-  ShapeView(forms::Shape& shape, QWidget& parent, ProgramCalls& calls);
+  ShapeView(forms::Shape& shape, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
  protected:

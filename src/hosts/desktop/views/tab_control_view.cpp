@@ -15,7 +15,7 @@ constexpr int kSkirt = 12;
 
 }  // namespace
 
-TabControlView::TabControlView(forms::TabControl& tabs, QWidget& parent, ProgramCalls& calls)
+TabControlView::TabControlView(forms::TabControl& tabs, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(tabs, calls), tabs_(tabs) {
   auto* pages = new TabPages(tabs.captions, parent);
   row_ = pages->row();

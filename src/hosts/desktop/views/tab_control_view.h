@@ -10,11 +10,10 @@ class TabRow;
 // Tabs over a page; the controls of all pages lie in its widget, and those of the page in front are seen.
 class TabControlView : public ControlView {
  public:
-  TabControlView(forms::TabControl& tabs, QWidget& parent, ProgramCalls& calls);
+  TabControlView(forms::TabControl& tabs, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
-  // Whether the model has turned to another page since the last sync.
-  [[nodiscard]] bool isBehind() const { return shownTab_ != tabs_.tab(); }
+  [[nodiscard]] bool isBehind() const override { return shownTab_ != tabs_.tab(); }
 
  private:
   forms::TabControl& tabs_;

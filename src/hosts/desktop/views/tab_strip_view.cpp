@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-TabStripView::TabStripView(forms::TabStrip& strip, QWidget& parent, ProgramCalls& calls)
+TabStripView::TabStripView(forms::TabStrip& strip, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(strip, calls), strip_(strip) {
   auto* row = new TabRow(TabRow::Look::segments, strip.captions, parent);
   connect(row, &TabRow::picked, this, [this](int index) { act([this, index] { strip_.userPick(index); }); });

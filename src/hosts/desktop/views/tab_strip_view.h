@@ -7,7 +7,7 @@ namespace desktop {
 
 class TabStripView : public ControlView {
  public:
-  TabStripView(forms::TabStrip& strip, QWidget& parent, ProgramCalls& calls);
+  TabStripView(forms::TabStrip& strip, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
 
  private:

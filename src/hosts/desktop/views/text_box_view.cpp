@@ -25,7 +25,7 @@ class Box : public QLineEdit {
 
 }  // namespace
 
-TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, ProgramCalls& calls)
+TextBoxView::TextBoxView(forms::TextBox& box, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(box, calls), box_(box) {
   if (box.locked) {
     adopt(new Notice(parent));

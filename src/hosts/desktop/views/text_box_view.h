@@ -8,7 +8,7 @@ namespace desktop {
 // A box to type into; a locked one is a notice, painted at once when it appears in a long handler.
 class TextBoxView : public ControlView {
  public:
-  TextBoxView(forms::TextBox& box, QWidget& parent, ProgramCalls& calls);
+  TextBoxView(forms::TextBox& box, QWidget& parent, screen::ProgramCalls& calls);
   void sync(forms::Property property) override;
   [[nodiscard]] bool paintsAtOnce() const override { return box_.locked; }
 

@@ -2,7 +2,7 @@
 
 namespace desktop {
 
-TimerView::TimerView(forms::Timer& timer, ProgramCalls& calls) : ControlView(timer, calls), timer_(timer) {
+TimerView::TimerView(forms::Timer& timer, screen::ProgramCalls& calls) : ControlView(timer, calls), timer_(timer) {
   connect(&clock_, &QTimer::timeout, this, [this] {
     if (waiting_) return;
     waiting_ = true;

@@ -43,15 +43,15 @@ forms::Node* nodeOf(const forms::TreeView& tree, const QTreeWidget& rows, const 
 
 }  // namespace
 
-TreeViewView::TreeViewView(forms::TreeView& tree, QWidget& parent, ProgramCalls& calls)
+TreeViewView::TreeViewView(forms::TreeView& tree, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(tree, calls), tree_(tree), rows_(new IndicatorTree(parent)) {
   connect(rows_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { itemToggled(*item, true); });
   connect(rows_, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { itemToggled(*item, false); });
   connect(rows_, &IndicatorTree::copyAsked, this, [this](QTreeWidgetItem* branch) {
     const forms::Node* node = nodeOf(tree_, *rows_, *branch);
-    if (node != nullptr) copy(branchText(tree_, *node));
+    if (node != nullptr) copy(screen::branchText(tree_, *node));
   });
-  connect(rows_, &IndicatorTree::copyAllAsked, this, [this] { copy(treeText(tree_)); });
+  connect(rows_, &IndicatorTree::copyAllAsked, this, [this] { copy(screen::treeText(tree_)); });
   adopt(rows_);
   for (const auto& root : tree.roots()) addWithChildren(*root);
 }
@@ -89,6 +89,8 @@ void TreeViewView::itemToggled(const QTreeWidgetItem& item, bool expanded) {
   if (node != nullptr) node->userExpand(expanded);
 }
 
-void TreeViewView::copy(const CopiedText& rows) const { copyRows(*rows_, rows.text, rows.rows); }
+void TreeViewView::copy(const screen::CopiedText& rows) const {
+  copyRows(*rows_, QString::fromStdString(rows.text), rows.rows);
+}
 
 }  // namespace desktop

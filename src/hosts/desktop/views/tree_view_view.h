@@ -4,7 +4,7 @@
 
 #include "forms/tree_view.h"
 #include "hosts/desktop/views/control_view.h"
-#include "hosts/desktop/views/tree_text.h"
+#include "hosts/screen/tree_text.h"
 
 class QTreeWidgetItem;
 
@@ -15,7 +15,7 @@ class IndicatorTree;
 // The tree of indicators. What the program opens is open; the rest is for the user to open, each time anew.
 class TreeViewView : public ControlView {
  public:
-  TreeViewView(forms::TreeView& tree, QWidget& parent, ProgramCalls& calls);
+  TreeViewView(forms::TreeView& tree, QWidget& parent, screen::ProgramCalls& calls);
   void cleared() override;
   void nodeAdded(const forms::Node& node) override;
   void nodeExpanded(const forms::Node& node) override;
@@ -25,7 +25,7 @@ class TreeViewView : public ControlView {
   // The user has opened or closed the item.
   void itemToggled(const QTreeWidgetItem& item, bool expanded);
 
-  void copy(const CopiedText& rows) const;
+  void copy(const screen::CopiedText& rows) const;
 
   forms::TreeView& tree_;
   IndicatorTree* rows_;

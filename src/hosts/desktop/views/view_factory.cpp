@@ -22,16 +22,16 @@
 namespace desktop {
 namespace {
 
-using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, QWidget&, ProgramCalls&);
+using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, QWidget&, screen::ProgramCalls&);
 
 template <class Kind, class View>
-std::unique_ptr<ControlView> make(forms::Control& control, QWidget& parent, ProgramCalls& calls) {
+std::unique_ptr<ControlView> make(forms::Control& control, QWidget& parent, screen::ProgramCalls& calls) {
   auto* kind = dynamic_cast<Kind*>(&control);
   if (kind == nullptr) return nullptr;
   return std::make_unique<View>(*kind, parent, calls);
 }
 
-std::unique_ptr<ControlView> makeTimer(forms::Control& control, QWidget&, ProgramCalls& calls) {
+std::unique_ptr<ControlView> makeTimer(forms::Control& control, QWidget&, screen::ProgramCalls& calls) {
   auto* timer = dynamic_cast<forms::Timer*>(&control);
   if (timer == nullptr) return nullptr;
   return std::make_unique<TimerView>(*timer, calls);
@@ -59,7 +59,7 @@ constexpr std::array<Maker, 17> kMakers{
 
 }  // namespace
 
-std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget& parent, ProgramCalls& calls) {
+std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget& parent, screen::ProgramCalls& calls) {
   for (const Maker maker : kMakers) {
     if (auto view = maker(control, parent, calls)) return view;
   }

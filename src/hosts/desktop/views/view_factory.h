@@ -7,6 +7,7 @@
 namespace desktop {
 
 // The view of a control, by its kind; null for a kind that is never seen. The widget gets `parent`.
-[[nodiscard]] std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget& parent, ProgramCalls& calls);
+[[nodiscard]] std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget& parent,
+                                                    screen::ProgramCalls& calls);
 
 }  // namespace desktop

@@ -5,12 +5,12 @@
 
 namespace desktop {
 
-WebBrowserView::WebBrowserView(forms::WebBrowser& browser, QWidget& parent, ProgramCalls& calls)
+WebBrowserView::WebBrowserView(forms::WebBrowser& browser, QWidget& parent, screen::ProgramCalls& calls)
     : ControlView(browser, calls), page_(new pages::PageBrowser(&parent)) {
   adopt(page_);
 }
 
-void WebBrowserView::navigated(const std::string& path, const std::string& applicationFolder) {
+void WebBrowserView::navigate(const std::string& path, const std::string& applicationFolder) {
   page_->openPage(QString::fromStdString(platform::machinePath(path).string()),
                   pages::StudyFolder(QString::fromStdString(applicationFolder)));
 }

@@ -14,8 +14,9 @@ class PageBrowser;
 // Shows the pages of the study's tables.
 class WebBrowserView : public ControlView {
  public:
-  WebBrowserView(forms::WebBrowser& browser, QWidget& parent, ProgramCalls& calls);
-  void navigated(const std::string& path, const std::string& applicationFolder) override;
+  WebBrowserView(forms::WebBrowser& browser, QWidget& parent, screen::ProgramCalls& calls);
+  // Shows a page of the application folder; nothing outside the folder is read for it.
+  void navigate(const std::string& path, const std::string& applicationFolder);
 
   // The title of the page shown, else its file's name.
   [[nodiscard]] QString locationName() const;

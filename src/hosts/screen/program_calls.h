@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace desktop {
+namespace screen {
 
 // The one door into the program: everything that the user or a timer does enters it through `run`. A handler that ends
 // the program ends the host here.
@@ -12,8 +12,9 @@ class ProgramCalls {
  public:
   using Action = std::function<void()>;
 
-  // What happens after each outermost call, when the program ends, and when a failure leaves a handler that has no trap
-  // (its description is shown to the user).
+  // What happens before and after each outermost call, when the program ends, and when a failure leaves a handler that
+  // has no trap (its description is shown to the user).
+  Action began;
   Action returned;
   Action ended;
   std::function<void(const std::string& description)> failed;
@@ -35,4 +36,4 @@ class ProgramCalls {
   std::vector<Action> waiting_;
 };
 
-}  // namespace desktop
+}  // namespace screen

@@ -1,8 +1,10 @@
-#include "hosts/desktop/ports/answered_engines.h"
+#include "hosts/screen/answered_engines.h"
 
 #include <gtest/gtest.h>
 
-namespace desktop {
+#include "platform/programs.h"
+
+namespace screen {
 namespace {
 
 class Engine : public platform::MapEngine {
@@ -61,6 +63,29 @@ TEST(AnsweredEngines, CallBackThroughTheProgramsDoor) {
   EXPECT_EQ(inner.engine->callback, nullptr);
 }
 
+TEST(AnsweredEngines, EndTheCallDuringWhichTheProgramEnded) {
+  class EndingCallback : public Callback {
+   public:
+    using Callback::Callback;
+    bool invoke(const std::string& /*method*/, const std::string& /*message*/) override {
+      throw platform::ProgramEnd{};
+    }
+  };
+  ProgramCalls calls;
+  OneEngine inner;
+  AnsweredEngines engines(inner, calls);
+  const auto engine = engines.create("MapInfo.runtime");
+  engine->setCallback(std::make_shared<EndingCallback>(calls));
+
+  bool wentOn = false;
+  calls.run([&] {
+    engine->run("MI:1,2");
+    wentOn = true;
+  });
+  EXPECT_TRUE(calls.hasEnded());
+  EXPECT_FALSE(wentOn);
+}
+
 TEST(AnsweredEngines, PassOnThatThereIsNone) {
   ProgramCalls calls;
   OneEngine inner;
@@ -68,4 +93,4 @@ TEST(AnsweredEngines, PassOnThatThereIsNone) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace screen

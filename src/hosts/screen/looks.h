@@ -7,7 +7,7 @@
 #include "forms/shape.h"
 
 // What a control is for on the screen, where its kind alone does not say it.
-namespace desktop {
+namespace screen {
 
 enum class ShapeLook { card, stage, header, line };
 [[nodiscard]] ShapeLook lookOf(const forms::Shape& shape);
@@ -29,4 +29,4 @@ inline constexpr std::string_view kCommandLabel = "lblComando";
 // Which toolbar picture is in hand while `command` stands in the label of the current tool; empty when none is.
 [[nodiscard]] std::string pictureOfCommand(const std::string& command);
 
-}  // namespace desktop
+}  // namespace screen

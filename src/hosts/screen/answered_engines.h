@@ -1,9 +1,9 @@
 #pragma once
 
-#include "hosts/desktop/program_calls.h"
+#include "hosts/screen/program_calls.h"
 #include "platform/map_engine.h"
 
-namespace desktop {
+namespace screen {
 
 // Engines whose callbacks enter the program through its one door, like everything else that the user does: what a
 // handler shows while it works is painted, and nothing else enters the program meanwhile.
@@ -19,4 +19,4 @@ class AnsweredEngines : public platform::MapEngines {
   ProgramCalls& calls_;
 };
 
-}  // namespace desktop
+}  // namespace screen

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <string>
 
 #include "forms/tree_view.h"
 
-namespace desktop {
+namespace screen {
 
 // What is copied of a tree of indicators, for a spreadsheet.
 struct CopiedText {
-  QString text;  // a heading and the rows, columns parted by tabs, each line ended; empty without rows
+  std::string text;  // a heading and the rows, columns parted by tabs, each line ended; empty without rows
   int rows = 0;
 };
 
@@ -20,4 +20,4 @@ struct CopiedText {
 // indicators below gives one row, which ends with it.
 [[nodiscard]] CopiedText branchText(const forms::TreeView& tree, const forms::Node& branch);
 
-}  // namespace desktop
+}  // namespace screen

@@ -1,11 +1,11 @@
-#include "hosts/desktop/looks.h"
+#include "hosts/screen/looks.h"
 
 #include <array>
 #include <string_view>
 
 #include "forms/form.h"
 
-namespace desktop {
+namespace screen {
 namespace {
 
 template <class Look>
@@ -66,4 +66,4 @@ std::string pictureOfCommand(const std::string& command) {
   return "";
 }
 
-}  // namespace desktop
+}  // namespace screen

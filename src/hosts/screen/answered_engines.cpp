@@ -1,8 +1,10 @@
-#include "hosts/desktop/ports/answered_engines.h"
+#include "hosts/screen/answered_engines.h"
 
 #include <utility>
 
-namespace desktop {
+#include "platform/programs.h"
+
+namespace screen {
 namespace {
 
 class AnsweringCallback : public platform::CallbackObject {
@@ -11,6 +13,7 @@ class AnsweringCallback : public platform::CallbackObject {
       : inner_(std::move(inner)), calls_(calls) {}
 
   [[nodiscard]] std::string className() const override { return inner_->className(); }
+  [[nodiscard]] std::vector<std::string> methods() const override { return inner_->methods(); }
 
   bool invoke(const std::string& method, const std::string& message) override {
     bool known = true;
@@ -28,14 +31,26 @@ class AnsweredEngine : public platform::MapEngine {
   AnsweredEngine(std::shared_ptr<platform::MapEngine> inner, ProgramCalls& calls)
       : inner_(std::move(inner)), calls_(calls) {}
 
-  void run(const std::string& statements) override { inner_->run(statements); }
-  [[nodiscard]] platform::Variant eval(const std::string& expression) override { return inner_->eval(expression); }
+  void run(const std::string& statements) override {
+    inner_->run(statements);
+    leaveIfEnded();
+  }
+  [[nodiscard]] platform::Variant eval(const std::string& expression) override {
+    platform::Variant result = inner_->eval(expression);
+    leaveIfEnded();
+    return result;
+  }
   void setCallback(std::shared_ptr<platform::CallbackObject> callback) override {
     if (callback != nullptr) callback = std::make_shared<AnsweringCallback>(std::move(callback), calls_);
     inner_->setCallback(std::move(callback));
   }
 
  private:
+  // The program may have ended in a callback during the call; then it ends in the caller too.
+  void leaveIfEnded() const {
+    if (calls_.hasEnded()) throw platform::ProgramEnd{};
+  }
+
   std::shared_ptr<platform::MapEngine> inner_;
   ProgramCalls& calls_;
 };
@@ -48,4 +63,4 @@ std::shared_ptr<platform::MapEngine> AnsweredEngines::create(const std::string& 
   return std::make_shared<AnsweredEngine>(std::move(engine), calls_);
 }
 
-}  // namespace desktop
+}  // namespace screen

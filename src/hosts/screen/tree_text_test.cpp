@@ -1,12 +1,12 @@
-#include "hosts/desktop/views/tree_text.h"
+#include "hosts/screen/tree_text.h"
 
 #include <gtest/gtest.h>
 
 #include "atlas/queries/indicator_tree.h"
 #include "forms/form.h"
-#include "hosts/desktop/qt_host.h"
+#include "forms/test_form.h"
 
-namespace desktop {
+namespace screen {
 namespace {
 
 using forms::Node;
@@ -32,13 +32,11 @@ class TreeText : public ::testing::Test {
     Node& province = tree.add(nullptr, "Brisa", kUnit);
     tree.add(&tree.add(&tree.add(&province, "Mujeres", kSex), "Indicadores generales", kType), "Fallecidos: 7");
   }
-  [[nodiscard]] std::string whole() const { return treeText(tree).text.toStdString(); }
-  [[nodiscard]] std::string branch(const Node& node) const { return branchText(tree, node).text.toStdString(); }
+  [[nodiscard]] std::string whole() const { return treeText(tree).text; }
+  [[nodiscard]] std::string branch(const Node& node) const { return branchText(tree, node).text; }
 
-  ProgramCalls calls;
-  motor::WidgetHandles handles;
-  QtHost host{calls, handles};
-  forms::Form form{host, "frmPrueba"};  // which nobody sees
+  forms::testing::Log listener;
+  forms::Form form{listener, "frmPrueba"};
   forms::TreeView tree{form, "Arbol"};
   Node* year = nullptr;
   Node* zone = nullptr;
@@ -111,4 +109,4 @@ TEST_F(TreeText, NoTextPartsItsLine) {
 }
 
 }  // namespace
-}  // namespace desktop
+}  // namespace screen

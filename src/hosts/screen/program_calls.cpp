@@ -1,14 +1,15 @@
-#include "hosts/desktop/program_calls.h"
+#include "hosts/screen/program_calls.h"
 
 #include <utility>
 
 #include "platform/programs.h"
 #include "text/failure.h"
 
-namespace desktop {
+namespace screen {
 
 void ProgramCalls::run(const Action& action) {
   if (ended_) return;
+  if (!isBusy() && began) began();
   ++depth_;
   try {
     action();
@@ -36,4 +37,4 @@ void ProgramCalls::runWhenFree(Action action) {
   }
 }
 
-}  // namespace desktop
+}  // namespace screen

@@ -1,28 +1,24 @@
-#include "hosts/desktop/views/tree_text.h"
+#include "hosts/screen/tree_text.h"
 
-#include <QStringList>
 #include <algorithm>
 #include <array>
 
 #include "atlas/queries/indicator_tree.h"
-#include "hosts/desktop/views/indicator_tree.h"
+#include "hosts/screen/indicator_text.h"
 
-namespace desktop {
+namespace screen {
 namespace {
 
 enum Column : std::size_t { kYear, kUnit, kSex, kType, kIndicator, kValue, kColumns };
-using Row = std::array<QString, kColumns>;
-
-QString textOf(const forms::Node& node) { return QString::fromStdString(node.text()); }
+using Row = std::array<std::string, kColumns>;
 
 bool hasFigure(const forms::Node& node) {
-  return node.children().empty() && !splitIndicator(textOf(node)).figure.isEmpty();
+  return node.children().empty() && !splitIndicator(node.text()).figure.empty();
 }
 
 bool isYear(const forms::Node& node) {
-  const QString text = textOf(node);
-  const bool digits = std::ranges::all_of(text, [](QChar c) { return c.isDigit(); });
-  return node.parent() == nullptr && node.children().empty() && !text.isEmpty() && digits;
+  const bool digits = std::ranges::all_of(node.text(), [](char c) { return c >= '0' && c <= '9'; });
+  return node.parent() == nullptr && node.children().empty() && !node.text().empty() && digits;
 }
 
 // A second line about the unit, followed by its figures, as the thematic maps give it.
@@ -41,11 +37,10 @@ Column columnOf(const forms::Node& node) {
 }
 
 // A cell that would part its line, or that begins like a quoted one, is told as a spreadsheet tells it.
-QString cell(QString text) {
-  for (const QLatin1Char c : {QLatin1Char('\t'), QLatin1Char('\n'), QLatin1Char('\r')})
-    text.replace(c, QLatin1Char(' '));
-  if (!text.startsWith(QLatin1Char('"'))) return text;
-  return QLatin1Char('"') + text.replace(QStringLiteral("\""), QStringLiteral("\"\"")) + QLatin1Char('"');
+std::string cell(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+  return text.starts_with('"') ? forms::quoted(text) : text;
 }
 
 // Collects the rows of a branch, or of all when there is none.
@@ -56,7 +51,7 @@ class Rows {
   void addSiblings(const std::vector<std::unique_ptr<forms::Node>>& siblings, Row above, bool inside) {
     for (const auto& node : siblings) {
       if (isYear(*node) || isLineBeforeFigures(*node)) {
-        above[columnOf(*node)] = textOf(*node);
+        above[columnOf(*node)] = node->text();
         if (node.get() == branch_) add(above);
       } else {
         addNode(*node, above, inside || node.get() == branch_);
@@ -66,15 +61,13 @@ class Rows {
 
   [[nodiscard]] CopiedText copied() const {
     if (rows_ == 0) return {};
-    const QStringList heading{QStringLiteral("Año"),  QStringLiteral("Unidad"),    QStringLiteral("Sexo"),
-                              QStringLiteral("Tipo"), QStringLiteral("Indicador"), QStringLiteral("Valor")};
-    return {heading.join(QLatin1Char('\t')) + QLatin1Char('\n') + text_, rows_};
+    return {"Año\tUnidad\tSexo\tTipo\tIndicador\tValor\n" + text_, rows_};
   }
 
  private:
   void addNode(const forms::Node& node, Row row, bool inside) {
     const Column column = columnOf(node);
-    const IndicatorText parts = hasFigure(node) ? splitIndicator(textOf(node)) : IndicatorText{textOf(node), {}};
+    const IndicatorText parts = hasFigure(node) ? splitIndicator(node.text()) : IndicatorText{node.text(), {}};
     row[column] = parts.text;
     row[kValue] = parts.figure;
     if (!node.children().empty()) return addSiblings(node.children(), row, inside);
@@ -84,14 +77,12 @@ class Rows {
   }
 
   void add(const Row& row) {
-    QStringList cells;
-    for (const QString& each : row) cells += cell(each);
-    text_ += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    for (const std::string& each : row) text_.append(cell(each)).append(1, &each == &row.back() ? '\n' : '\t');
     ++rows_;
   }
 
   const forms::Node* branch_;
-  QString text_;
+  std::string text_;
   int rows_ = 0;
 };
 
@@ -109,4 +100,4 @@ CopiedText branchText(const forms::TreeView& tree, const forms::Node& branch) {
   return rows.copied();
 }
 
-}  // namespace desktop
+}  // namespace screen
