@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/embedded/embedded_engine.h"
 #include "hosts/headless/scripted_engine.h"
 #include "text/file_text.h"
 
@@ -95,23 +95,19 @@ Run::Run(const std::string& name, const Study& study) {
   } else {
     engines_ = std::make_unique<headless::EmbeddedEngine>(study.folder());
   }
-  headless::ReplayOptions options;
-  options.applicationFolder = study.folder();
-  if (const fs::path registry = file(name, ".registry"); fs::exists(registry)) {
-    options.registryFile = contentsOf(registry);
-  }
-  start(options);
+  std::optional<std::string> registry;
+  if (const fs::path own = file(name, ".registry"); fs::exists(own)) registry = contentsOf(own);
+  start(study.folder(), registry);
 }
 
 Run::Run(const std::string& studyFolder) : engines_(std::make_unique<headless::EmbeddedEngine>(studyFolder)) {
-  headless::ReplayOptions options;
-  options.applicationFolder = studyFolder;
-  start(options);
+  start(studyFolder, std::nullopt);
 }
 
-void Run::start(const headless::ReplayOptions& options) {
-  replay_ = std::make_unique<headless::Replay>(options, *engines_,
-                                               [this](const std::string& line) { transcript_.push_back(line); });
+void Run::start(const std::string& folder, const std::optional<std::string>& registry) {
+  world_ = std::make_unique<headless::HeadlessWorld>(folder, registry, *engines_);
+  replay_ =
+      std::make_unique<headless::Replay>(*world_, [this](const std::string& line) { transcript_.push_back(line); });
 }
 
 }  // namespace scenarios

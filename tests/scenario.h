@@ -3,9 +3,11 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "hosts/headless/headless_world.h"
 #include "hosts/headless/replay.h"
 
 // A scenario: a replay script NAME.replay with the transcript that it must give, NAME.golden. It runs on a copy of the
@@ -77,10 +79,11 @@ class Run {
   [[nodiscard]] const Lines& transcript() const { return transcript_; }
 
  private:
-  void start(const headless::ReplayOptions& options);
+  void start(const std::string& folder, const std::optional<std::string>& registry);
 
   Lines transcript_;
   std::unique_ptr<headless::EngineHost> engines_;
+  std::unique_ptr<headless::HeadlessWorld> world_;
   std::unique_ptr<headless::Replay> replay_;
 };
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <string>
 
+#include "host_transcripts.h"
 #include "scenario.h"
 
 // Runs every scenario and compares its transcript with the golden one, line by line. With VELDORIA_UPDATE_GOLDEN=1 in
@@ -26,19 +26,6 @@ Lines transcriptOf(const std::string& name) {
   return run.transcript();
 }
 
-// The lines around the first one that differs.
-std::string firstDifference(const Lines& expected, const Lines& actual) {
-  const auto [e, a] = std::ranges::mismatch(expected, actual);
-  const std::ptrdiff_t at = e - expected.begin();
-  std::string report = "line " + std::to_string(at + 1) + "\n";
-  for (std::ptrdiff_t i = std::max<std::ptrdiff_t>(0, at - 5); i < at; ++i) {
-    report += "    " + expected[static_cast<std::size_t>(i)] + "\n";
-  }
-  report += "  - " + (e == expected.end() ? "(nothing more)" : *e) + "\n";
-  report += "  + " + (a == actual.end() ? "(nothing more)" : *a) + "\n";
-  return report;
-}
-
 class Scenario : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(Scenario, GivesItsGoldenTranscript) {
@@ -50,7 +37,7 @@ TEST_P(Scenario, GivesItsGoldenTranscript) {
     return;
   }
   const Lines expected = scenarios::linesOf(scenarios::contentsOf(golden));
-  EXPECT_TRUE(expected == actual) << firstDifference(expected, actual);
+  EXPECT_EQ(scenarios::firstDifference(expected, actual), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Scenario, ::testing::ValuesIn(scenarios::names()),

@@ -1,1 +1,1 @@
-veldoria_app(replay LINKS veldoria_headless)
+veldoria_app(replay LINKS veldoria_headless_embedded)

@@ -6,7 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/embedded/embedded_engine.h"
+#include "hosts/headless/headless_world.h"
 #include "hosts/headless/replay.h"
 #include "hosts/headless/scripted_engine.h"
 #include "text/file_text.h"
@@ -83,9 +84,9 @@ std::string applicationFolder(const std::string& written) {
 
 // Runs the script; what is wrong with a file is said with its name.
 void replay(const Arguments& arguments) {
-  headless::ReplayOptions options{
-      .applicationFolder = applicationFolder(arguments.app), .registryFile = std::nullopt, .quiet = arguments.quiet};
-  if (arguments.registryFile) options.registryFile = contentsOf(*arguments.registryFile);
+  const std::string folder = applicationFolder(arguments.app);
+  std::optional<std::string> registry;
+  if (arguments.registryFile) registry = contentsOf(*arguments.registryFile);
   const std::string script = contentsOf(arguments.script);
   std::unique_ptr<headless::EngineHost> engines;
   if (arguments.engineFile) {
@@ -96,16 +97,18 @@ void replay(const Arguments& arguments) {
       throw std::invalid_argument(*arguments.engineFile + ": " + problem.what());
     }
   } else {
-    engines = std::make_unique<headless::EmbeddedEngine>(options.applicationFolder);
+    engines = std::make_unique<headless::EmbeddedEngine>(folder);
   }
-  std::optional<headless::Replay> replay;
+  std::optional<headless::HeadlessWorld> world;
   try {
-    replay.emplace(options, *engines, [](const std::string& line) { std::cout << line << '\n'; });
+    world.emplace(folder, registry, *engines);
   } catch (const std::invalid_argument& problem) {
     throw std::invalid_argument(arguments.registryFile.value_or("") + ": " + problem.what());
   }
+  headless::Replay replay(
+      *world, [](const std::string& line) { std::cout << line << '\n'; }, arguments.quiet);
   try {
-    replay->run(script);
+    replay.run(script);
   } catch (const headless::ScriptError& problem) {
     throw std::invalid_argument(arguments.script + ": " + problem.what());
   }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/variant.h"
 
@@ -16,6 +17,10 @@ class CallbackObject {
 
   // The class's own name, for logs: "MICallback".
   [[nodiscard]] virtual std::string className() const = 0;
+
+  // The names of its methods in the order of their declaration, for engines that ask for names before they call.
+  // Objects that answer to any name have none.
+  [[nodiscard]] virtual std::vector<std::string> methods() const { return {}; }
 
   // Calls the method named `method`, found without regard to case, with the callback message. No exception but the end
   // of the program leaves it. Returns false when there is no such method.

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/embedded/embedded_engine.h"
 #include "motor/session/headless_windows.h"
 
 namespace monkey {

@@ -21,11 +21,10 @@ std::string emptied(const fs::path& folder) {
 }  // namespace
 
 Life::Life(const std::string& studyFolder)
-    : here_(emptied(text::toPath(studyFolder) / "salidas")), engines_(studyFolder) {
-  headless::ReplayOptions options;
-  options.applicationFolder = studyFolder;
-  replay_ = std::make_unique<headless::Replay>(options, engines_,
-                                               [this](const std::string& line) { effects_.push_back(line); });
+    : here_(emptied(text::toPath(studyFolder) / "salidas")),
+      engines_(studyFolder),
+      world_(studyFolder, std::nullopt, engines_) {
+  replay_ = std::make_unique<headless::Replay>(world_, [this](const std::string& line) { effects_.push_back(line); });
 }
 
 Life::~Life() = default;
@@ -55,7 +54,7 @@ void Life::judge(const std::string& line) {
   complaint_ = judge_.complaintAfter({.action = line,
                                       .effects = effects_,
                                       .program = *replay_->program(),
-                                      .windows = replay_->windows(),
+                                      .windows = world_.windows(),
                                       .sessions = engines_.sessions(),
                                       .mapWindows = engines_.windows(),
                                       .mapWindowsOfSession = engines_.windowsOfSession()});

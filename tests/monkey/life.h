@@ -4,6 +4,7 @@
 #include <string>
 
 #include "counted_engines.h"
+#include "hosts/headless/headless_world.h"
 #include "hosts/headless/replay.h"
 #include "judge.h"
 #include "scenario.h"
@@ -42,6 +43,7 @@ class Life {
 
   scenarios::InFolder here_;
   CountedEngines engines_;
+  headless::HeadlessWorld world_;
   std::unique_ptr<headless::Replay> replay_;
   Judge judge_;
   Script script_;

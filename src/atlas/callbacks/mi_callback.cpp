@@ -28,6 +28,12 @@ constexpr std::array kMethods = std::to_array<Method>({
 
 }  // namespace
 
+std::vector<std::string> MICallback::methods() const {
+  std::vector<std::string> names;
+  for (const Method& method : kMethods) names.emplace_back(method.name);
+  return names;
+}
+
 bool MICallback::invoke(const std::string& method, const std::string& message) {
   for (const Method& candidate : kMethods) {
     if (!text::equalsIgnoringCase(candidate.name, method)) continue;

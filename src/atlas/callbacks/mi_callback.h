@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "forms/tree_view.h"
 #include "platform/map_engine.h"
@@ -18,6 +19,7 @@ class MICallback : public platform::CallbackObject {
   explicit MICallback(Atlas& atlas) : atlas_(atlas) {}
 
   [[nodiscard]] std::string className() const override { return "MICallback"; }
+  [[nodiscard]] std::vector<std::string> methods() const override;
   bool invoke(const std::string& method, const std::string& message) override;
 
   // The statistics of the object under the point, from the top layer's table.

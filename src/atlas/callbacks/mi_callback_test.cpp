@@ -37,6 +37,7 @@ class Callback : public testing::Program {
 
 TEST_F(Callback, MethodsAreFoundWithoutRegardToCase) {
   EXPECT_EQ(world.callback->className(), "MICallback");
+  EXPECT_EQ(world.callback->methods(), (Lines{"infoEstadisticas", "info", "InfoDatos", "borraseleccion"}));
   for (const char* method : {"Info", "info", "INFODATOS", "InfoEstadisticas", "BorraSeleccion"}) {
     EXPECT_TRUE(world.callback->invoke(method, "x")) << method;
   }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "hosts/headless/registry_file.h"
 #include "platform/registry.h"
 
 namespace headless {
@@ -11,10 +12,7 @@ namespace headless {
 // A registry in memory.
 class FakeRegistry : public platform::Registry {
  public:
-  // Adds the values of a registry file: lines "KEY|VALUE|TYPE|DATA" with the types sz, expand_sz, dword (decimal, or
-  // hex after 0x) and binary (pairs of hex digits), or "KEY|VALUE|status|N" for a value whose query answers with the
-  // status N;
-  // "#" begins a comment line. Fails with std::invalid_argument that names the line.
+  // Adds the values of a registry file. Fails with std::invalid_argument that names the line.
   void read(std::string_view file);
 
   void addText(const std::string& key, const std::string& name, const std::string& data);
@@ -28,17 +26,7 @@ class FakeRegistry : public platform::Registry {
   [[nodiscard]] std::size_t openKeys() const;
 
  private:
-  struct Value {
-    std::string key;
-    std::string name;
-    std::int32_t status = platform::kRegistrySuccess;
-    std::uint32_t type = 0;
-    std::vector<std::uint8_t> data;
-  };
-
-  [[nodiscard]] static Value parsed(std::string_view line);
-
-  std::vector<Value> values_;
+  std::vector<RegistryValue> values_;
   std::vector<std::string> opened_;  // by key handle, counted from 1; "" when closed
 };
 

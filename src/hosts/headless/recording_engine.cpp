@@ -15,6 +15,7 @@ class RecordingCallback : public platform::CallbackObject {
       : inner_(std::move(inner)), transcript_(transcript) {}
 
   [[nodiscard]] std::string className() const override { return inner_->className(); }
+  [[nodiscard]] std::vector<std::string> methods() const override { return inner_->methods(); }
   bool invoke(const std::string& method, const std::string& message) override {
     transcript_.write("call " + method + " " + message);
     return inner_->invoke(method, message);

@@ -1,7 +1,6 @@
 #include "hosts/headless/replay.h"
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
 #include "hosts/headless/text_lines.h"
@@ -11,46 +10,29 @@
 namespace headless {
 namespace {
 
-constexpr std::string_view kAppPaths = "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
-
-// What is installed where no registry file says otherwise.
-struct Installed {
-  std::string_view program;
-  std::string_view folder;
-  std::string_view executable;
-};
-constexpr std::array kInstalled{
-    Installed{"Mapinfor.exe", "C:\\Archivos de programa\\MapInfo\\ProViewer", "mapinfor.exe"},
-    Installed{"ACRORD32.exe", "C:\\Archivos de programa\\Adobe\\Reader", "ACRORD32.exe"},
-};
-
 constexpr std::string_view kApp = "<app>";
 
 }  // namespace
 
-Replay::Replay(const ReplayOptions& options, EngineHost& engines, Transcript::Sink sink)
-    : applicationFolder_(options.applicationFolder),
-      engineHost_(engines),
-      transcript_(std::move(sink), options.applicationFolder),
-      ports_(
-          {engines.engines(), windows_, registry_, files_, programs_, messages_, dialogs_, options.applicationFolder},
-          recorder_) {
-  transcript_.hush(options.quiet);
-  if (options.registryFile) {
-    registry_.read(*options.registryFile);
-  } else {
-    installDefaults();
-  }
+Replay::Replay(World& world, Transcript::Sink sink, const std::set<std::string>& quiet)
+    : world_(world),
+      applicationFolder_(world.ports().applicationFolder),
+      transcript_(std::move(sink), applicationFolder_),
+      recordingListener_(world.screen(), recorder_),
+      ports_(world.ports(), recorder_) {
+  transcript_.hush(quiet);
 }
 
-Replay::~Replay() { transcript_.close(); }
+Replay::~Replay() {
+  transcript_.close();
+  letGo();
+}
 
-void Replay::installDefaults() {
-  for (const Installed& installed : kInstalled) {
-    const std::string folder(installed.folder);
-    registry_.addText(std::string(kAppPaths) + std::string(installed.program), "Path", folder);
-    files_.pretendFile(folder + "\\" + std::string(installed.executable));
-  }
+// The engine goes first: its map may lie in a window of the program. What shows the program goes before it.
+void Replay::letGo() {
+  if (atlas_ != nullptr) atlas_->motormapa.reset();
+  world_.closeAll();
+  atlas_.reset();
 }
 
 void Replay::run(std::string_view script) {
@@ -97,7 +79,7 @@ void Replay::noticeEnd() {
   const auto forms = atlas_->forms();
   if (std::ranges::any_of(forms, [](const forms::Form* form) { return form->isLoaded(); })) return;
   ended_ = true;
-  atlas_.reset();
+  letGo();
 }
 
 std::string Replay::path(const std::string& written) const {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "hosts/headless/headless_world.h"
 #include "hosts/headless/scripted_engine.h"
 
 namespace {
@@ -28,10 +29,9 @@ class ReplayTest : public ::testing::Test {
   // What is wrong with a script; "" when nothing is.
   std::string run(const std::string& script, const std::set<std::string>& quiet = {}) {
     lines.clear();
-    headless::ReplayOptions options;
-    options.applicationFolder = emptyFolder();
-    options.quiet = quiet;
-    headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
+    headless::HeadlessWorld world(emptyFolder(), std::nullopt, engines);
+    headless::Replay replay(
+        world, [this](const std::string& line) { lines.push_back(line); }, quiet);
     try {
       replay.run(script);
     } catch (const headless::ScriptError& problem) {
@@ -42,10 +42,9 @@ class ReplayTest : public ::testing::Test {
 };
 
 TEST_F(ReplayTest, TheEnginesOwnFrameIsClosed) {
-  headless::ReplayOptions options;
-  options.applicationFolder = emptyFolder();
-  headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
-  replay.windows().addWindow("MapInfo");
+  headless::HeadlessWorld world(emptyFolder(), std::nullopt, engines);
+  headless::Replay replay(world, [this](const std::string& line) { lines.push_back(line); });
+  world.windows().addWindow("MapInfo");
   replay.run("file <app>\\Tablas\\Estadisticas\\Estadisticas.wor\nstart\ntick");
   const auto found = std::ranges::find(lines, "findwindow \"MapInfo\" = found");
   ASSERT_LT(found, lines.end() - 1);
@@ -149,12 +148,9 @@ TEST_F(ReplayTest, NothingIsWrittenOfWhatGoesAfterTheScript) {
 }
 
 TEST_F(ReplayTest, ARegistryFileReplacesWhatIsInstalled) {
-  headless::ReplayOptions options;
-  options.applicationFolder = emptyFolder();
-  options.registryFile = "a|b|c|d";
-  EXPECT_THROW(headless::Replay(options, engines, [](const std::string&) {}), std::invalid_argument);
-  options.registryFile = "";
-  headless::Replay replay(options, engines, [this](const std::string& line) { lines.push_back(line); });
+  EXPECT_THROW(headless::HeadlessWorld(emptyFolder(), "a|b|c|d", engines), std::invalid_argument);
+  headless::HeadlessWorld world(emptyFolder(), "", engines);
+  headless::Replay replay(world, [this](const std::string& line) { lines.push_back(line); });
   replay.run("start\ntick");
   EXPECT_EQ(lines.back(), "end");
   EXPECT_THROW(replay.run("tick"), headless::ScriptError);

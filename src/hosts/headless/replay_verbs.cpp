@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <array>
 
+#include "hosts/headless/choices.h"
 #include "hosts/headless/control_report.h"
 #include "hosts/headless/replay.h"
-#include "hosts/headless/user.h"
 
 // The verbs of the script language, one entry each.
 namespace headless {
@@ -44,83 +44,83 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
          line.finish();
          if (r.atlas_ != nullptr) throw ScriptError("the program has been started already");
          r.atlas_ = std::make_unique<atlas::Atlas>(r.ports_.ports(), r.recordingListener_);
-         r.atlas_->Main();
+         r.world_.enter([&r] { r.atlas_->Main(); });
        }},
       {"tick", false,
        [](Replay& r, ScriptLine& line) {
          line.finish();
-         for (const forms::Form* form : r.atlas_->forms()) user::tick(*form);
+         for (forms::Form* form : r.atlas_->forms()) r.world_.hands().tick(*form);
        }},
       {"doubleclick", false,
        [](Replay& r, ScriptLine& line) {
          forms::Form& form = r.form(line.text("the form"));
          line.finish();
-         form.userDoubleClick();
+         r.world_.hands().doubleClick(form);
        }},
       {"close", false,
        [](Replay& r, ScriptLine& line) {
          forms::Form& form = r.form(line.hasMore() ? line.text("the form") : kMainForm);
          line.finish();
-         form.userClose();
+         r.world_.hands().close(form);
        }},
       {"resize", false,
        [](Replay& r, ScriptLine& line) {
          const double width = line.number("the width");
          const double height = line.number("the height");
          line.finish();
-         r.form(kMainForm).userResize(width, height);
+         r.world_.hands().resize(r.form(kMainForm), width, height);
        }},
       {"minimize", false,
        [](Replay& r, ScriptLine& line) {
          line.finish();
-         r.form(kMainForm).userMinimize();
+         r.world_.hands().minimize(r.form(kMainForm));
        }},
       {"restore", false,
        [](Replay& r, ScriptLine& line) {
          line.finish();
-         r.form(kMainForm).userRestore();
+         r.world_.hands().restore(r.form(kMainForm));
        }},
-      {"click", false, [](Replay& r, ScriptLine& line) { user::click(r.indexedControl(line)); }},
+      {"click", false, [](Replay& r, ScriptLine& line) { r.world_.hands().click(r.indexedControl(line)); }},
       {"select", false,
        [](Replay& r, ScriptLine& line) {
          forms::Control& control = r.control(line);
          const Word& what = line.word("the item");
          line.finish();
-         user::select(control, what);
+         r.world_.hands().pick(control, chosenIndex(control, what));
        }},
       {"focus", false,
        [](Replay& r, ScriptLine& line) {
          forms::Control& control = r.control(line);
          line.finish();
-         control.userFocus();
+         r.world_.hands().enter(control);
        }},
       {"mouseup", false,
        [](Replay& r, ScriptLine& line) {
          forms::Control& control = r.control(line);
          line.finish();
-         user::release(control);
+         r.world_.hands().release(control);
        }},
-      {"mousemove", false, [](Replay& r, ScriptLine& line) { r.indexedControl(line).userMouseMove(); }},
+      {"mousemove", false, [](Replay& r, ScriptLine& line) { r.world_.hands().pointAt(r.indexedControl(line)); }},
       {"type", false,
        [](Replay& r, ScriptLine& line) {
          forms::Control& control = r.control(line);
          const std::string& text = line.text("the text");
          line.finish();
-         user::type(control, text);
+         r.world_.hands().type(control, text);
        }},
       {"edit", false,
        [](Replay& r, ScriptLine& line) {
          forms::Control& control = r.control(line);
          const std::string& text = line.text("the text");
          line.finish();
-         user::edit(control, text);
+         r.world_.hands().edit(control, text);
        }},
       {"mapclick", false,
        [](Replay& r, ScriptLine& line) {
          const std::string& x = line.text("x");
          const std::string& y = line.text("y");
          line.finish();
-         if (!r.engineHost_.clickMap(x, y)) throw ScriptError("there is no map to click on");
+         if (!r.world_.clickMap(x, y)) throw ScriptError("there is no map to click on");
        }},
       {"callback", false,
        [](Replay& r, ScriptLine& line) {
@@ -129,41 +129,41 @@ const Replay::Verb* Replay::findVerb(const std::string& name) {
          line.finish();
          const auto engine = r.ports_.engines().current();
          if (engine == nullptr) throw ScriptError("there is no engine to call back");
-         if (!engine->callBack(method, message)) throw ScriptError("no callback method " + method);
+         if (!r.world_.callBack(*engine, method, message)) throw ScriptError("no callback method " + method);
        }},
       {"answer", true,
        [](Replay& r, ScriptLine& line) {
-         r.messages_.prepare(button(line.text("the button")));
+         r.world_.prepareAnswer(button(line.text("the button")));
          line.finish();
        }},
       {"savename", true,
        [](Replay& r, ScriptLine& line) {
-         r.dialogs_.prepareName(r.path(line.text("the name")));
+         r.world_.prepareName(r.path(line.text("the name")));
          line.finish();
        }},
       {"savecancel", true,
        [](Replay& r, ScriptLine& line) {
          line.finish();
-         r.dialogs_.prepareCancel();
+         r.world_.prepareCancel();
        }},
       {"locationname", true,
        [](Replay& r, ScriptLine& line) {
-         r.listener_.setLocationName(line.text("the name"));
+         r.world_.nameLocation(line.text("the name"));
          line.finish();
        }},
       {"file", true,
        [](Replay& r, ScriptLine& line) {
-         r.files_.pretendFile(r.path(line.text("the path")));
+         r.world_.putFile(r.path(line.text("the path")));
          line.finish();
        }},
       {"nofile", true,
        [](Replay& r, ScriptLine& line) {
-         r.files_.pretendNoFile(r.path(line.text("the path")));
+         r.world_.removeFile(r.path(line.text("the path")));
          line.finish();
        }},
       {"window", true,
        [](Replay& r, ScriptLine& line) {
-         r.windows_.addWindow(line.text("the title"));
+         r.world_.openWindow(line.text("the title"));
          line.finish();
        }},
       {"fail", true,

@@ -10,11 +10,12 @@
 #include "forms/tabs.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
+#include "hosts/headless/choices.h"
 #include "hosts/headless/control_report.h"
 #include "hosts/headless/fake_windows.h"
 #include "hosts/headless/headless_listener.h"
+#include "hosts/headless/model_hands.h"
 #include "hosts/headless/script_line.h"
-#include "hosts/headless/user.h"
 
 namespace {
 
@@ -71,61 +72,64 @@ class Window : public forms::Form {
   forms::Timer Timer1{*this, "Timer1"};
 };
 
-class UserTest : public ::testing::Test {
+class HandsTest : public ::testing::Test {
  protected:
   headless::FakeWindows windows;
   headless::HeadlessListener listener{windows};
   Window form{listener};
+  headless::ModelHands hands;
 
-  static headless::Word word(const std::string& s) { return headless::splitWords(s).front(); }
+  void pick(forms::Control& control, const std::string& what) {
+    hands.pick(control, headless::chosenIndex(control, headless::splitWords(what).front()));
+  }
 };
 
-TEST_F(UserTest, TypesOneCharacterAfterTheOther) {
+TEST_F(HandsTest, TypesOneCharacterAfterTheOther) {
   form.txt.setText("antes");
   Lines heard;
   form.txt.GotFocus.add([&] { heard.push_back("focus"); });
   form.txt.Change.add([&] { heard.push_back(form.txt.text()); });
-  headless::user::type(form.txt, "Ñu");
+  hands.type(form.txt, "Ñu");
   EXPECT_EQ(heard, (Lines{"focus", "", "Ñ", "Ñu"}));
   form.Combo.Change.add([&] { form.Combo.setText(""); });
-  headless::user::type(form.Combo, "ab");
+  hands.type(form.Combo, "ab");
   EXPECT_EQ(form.Combo.text(), "") << "a handler may empty the box while it is typed into";
-  EXPECT_THROW(headless::user::type(form.Lbl, "x"), ScriptError);
+  EXPECT_THROW(hands.type(form.Lbl, "x"), ScriptError);
 }
 
-TEST_F(UserTest, PicksByTextOrIndex) {
-  headless::user::select(form.Lista, word("#1"));
+TEST_F(HandsTest, PicksByTextOrIndex) {
+  pick(form.Lista, "#1");
   EXPECT_EQ(form.Lista.text(), "#1");
-  headless::user::select(form.Lista, word("uno"));
+  pick(form.Lista, "uno");
   EXPECT_EQ(form.Lista.listIndex(), 0);
-  headless::user::select(form.Lista, word("\"#1\""));
+  pick(form.Lista, "\"#1\"");
   EXPECT_EQ(form.Lista.listIndex(), 1);
-  headless::user::select(form.Ficha, word("Mapas"));
+  pick(form.Ficha, "Mapas");
   EXPECT_EQ(form.Ficha.tab(), 1);
   for (const char* wrong : {"dos", "#2", "#x", "#-1", "Uno", "#"})
-    EXPECT_THROW(headless::user::select(form.Lista, word(wrong)), ScriptError) << wrong;
-  EXPECT_THROW(headless::user::select(form.Lbl, word("#0")), ScriptError);
+    EXPECT_THROW(pick(form.Lista, wrong), ScriptError) << wrong;
+  EXPECT_THROW(pick(form.Lbl, "#0"), ScriptError);
 }
 
-TEST_F(UserTest, ClicksWhatCanBeClicked) {
+TEST_F(HandsTest, ClicksWhatCanBeClicked) {
   int clicks = 0;
   form.Lbl.Click.add([&] { ++clicks; });
   form.Image2.Click.add([&](int index) { clicks += index; });
   form.Opt.MouseUp.add([&] { clicks += 10; });
-  headless::user::click(form.Lbl);
-  headless::user::click(form.Image2.at(2));
-  headless::user::click(form.Opt);
-  headless::user::release(form.Opt);
+  hands.click(form.Lbl);
+  hands.click(form.Image2.at(2));
+  hands.click(form.Opt);
+  hands.release(form.Opt);
   EXPECT_EQ(clicks, 23);
-  EXPECT_THROW(headless::user::click(form.txt), ScriptError);
-  EXPECT_THROW(headless::user::release(form.Lbl), ScriptError);
+  EXPECT_THROW(hands.click(form.txt), ScriptError);
+  EXPECT_THROW(hands.release(form.Lbl), ScriptError);
   int ticks = 0;
   form.Timer1.Tick.add([&] { ++ticks; });
-  headless::user::tick(form);
+  hands.tick(form);
   EXPECT_EQ(ticks, 1);
 }
 
-TEST_F(UserTest, ReportsAControl) {
+TEST_F(HandsTest, ReportsAControl) {
   form.Lista.setListIndex(0);
   form.Lista.place(15, 30, 45, 60);
   EXPECT_EQ(headless::propertyLines(form.Lista),
@@ -134,7 +138,7 @@ TEST_F(UserTest, ReportsAControl) {
                    "show Lista.Height 60", "show Lista.List(0) \"uno\"", "show Lista.List(1) \"#1\""}));
 }
 
-TEST_F(UserTest, ReportsATree) {
+TEST_F(HandsTest, ReportsATree) {
   forms::TreeView tree(form, "Arbol");
   forms::Node& root = tree.add(nullptr, "Ávila");
   tree.add(&tree.add(&root, "Hombres"), "Tumores: 1,5");

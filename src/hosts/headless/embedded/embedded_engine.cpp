@@ -1,4 +1,4 @@
-#include "hosts/headless/embedded_engine.h"
+#include "hosts/headless/embedded/embedded_engine.h"
 
 #include "text/number_text.h"
 
