@@ -1,0 +1,16 @@
+# GoogleTest and its targets: the installed library, or for Windows the sources that Debian's package brings along, with
+# a main of our own, whose last line alone says that all went well.
+if(NOT WIN32)
+  find_package(GTest REQUIRED)
+else()
+  set(INSTALL_GTEST OFF)
+  set(BUILD_GMOCK OFF)
+  add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+  foreach(library IN ITEMS gtest gtest_main)
+    if(NOT TARGET GTest::${library})
+      add_library(GTest::${library} ALIAS ${library})
+    endif()
+  endforeach()
+  set_property(TARGET gtest_main PROPERTY SOURCES "${CMAKE_SOURCE_DIR}/tests/windows/test_main.cpp")
+  target_link_options(gtest_main INTERFACE -municode)
+endif()

@@ -1,0 +1,42 @@
+#include "hosts/windows/com/ole_failure.h"
+
+#include <gtest/gtest.h>
+#include <oleauto.h>
+
+namespace windows {
+namespace {
+
+TEST(OleFailure, KnowsTheNumbersOfThePrograms) {
+  EXPECT_EQ(failureOf(DISP_E_EXCEPTION).number(), failures::kEngineRejected);
+  EXPECT_EQ(failureOf(DISP_E_UNKNOWNNAME).number(), failures::kNoSuchMember);
+  EXPECT_EQ(failureOf(static_cast<HRESULT>(0x800706BA)).number(), 462);
+  EXPECT_EQ(failureOf(static_cast<HRESULT>(0x800706BE)).number(), -2147023170);
+  EXPECT_EQ(failureOf(static_cast<HRESULT>(0x8004ABCD)).number(), static_cast<int>(0x8004ABCD));
+}
+
+TEST(OleFailure, PrefersWhatTheOtherSideSaid) {
+  EXPECT_EQ(failureOf(DISP_E_EXCEPTION, "Tabla desconocida").description(), "Tabla desconocida");
+  EXPECT_EQ(failureOf(DISP_E_EXCEPTION).description(), "El motor de mapas ha rechazado la instrucción.");
+  EXPECT_FALSE(failureOf(static_cast<HRESULT>(0x80030002)).description().empty());
+}
+
+HRESULT STDMETHODCALLTYPE fillIn(EXCEPINFO* exception) {
+  exception->bstrDescription = SysAllocString(L"Más tarde");
+  return S_OK;
+}
+
+TEST(OleFailure, TakesTheDescriptionOutOfAnAnswer) {
+  EXCEPINFO exception{};
+  exception.bstrSource = SysAllocString(L"motor");
+  exception.bstrDescription = SysAllocString(L"Error de sintaxis en ñ");
+  EXPECT_EQ(takeDescription(exception), "Error de sintaxis en ñ");
+  EXPECT_EQ(exception.bstrDescription, nullptr);
+  EXPECT_EQ(exception.bstrSource, nullptr);
+
+  EXCEPINFO deferred{};
+  deferred.pfnDeferredFillIn = fillIn;
+  EXPECT_EQ(takeDescription(deferred), "Más tarde");
+}
+
+}  // namespace
+}  // namespace windows

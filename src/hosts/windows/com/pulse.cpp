@@ -1,0 +1,43 @@
+#include "hosts/windows/com/pulse.h"
+
+#include <utility>
+
+#include "hosts/windows/win32/message_window.h"
+
+namespace windows {
+namespace {
+
+constexpr UINT kBeat = WM_APP;
+constexpr DWORD kInterval = 500;  // milliseconds
+
+}  // namespace
+
+Pulse::Pulse(screen::ProgramCalls& calls) : calls_(calls), window_(makeMessageWindow(L"VeldoriaPulse", receive, this)) {
+  calls_.began = [this] { start(); };
+}
+
+Pulse::~Pulse() {
+  calls_.began = nullptr;
+  stop();
+}
+
+// On another thread: the message is all that it does.
+void Pulse::beat(void* window, BOOLEAN) { PostMessageW(static_cast<HWND>(window), kBeat, 0, 0); }
+
+void Pulse::start() {
+  if (timer_ != nullptr) return;
+  CreateTimerQueueTimer(&timer_, nullptr, beat, window_.get(), kInterval, kInterval, WT_EXECUTEDEFAULT);
+}
+
+void Pulse::stop() {
+  if (timer_ != nullptr) static_cast<void>(DeleteTimerQueueTimer(nullptr, std::exchange(timer_, nullptr), nullptr));
+}
+
+LRESULT Pulse::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {
+  auto* pulse = ownerOf<Pulse>(window);
+  if (pulse == nullptr || message != kBeat) return DefWindowProcW(window, message, wide, large);
+  if (!pulse->calls_.isBusy()) pulse->stop();
+  return 0;
+}
+
+}  // namespace windows

@@ -1,0 +1,335 @@
+#include "hosts/windows/form_window.h"
+
+#include <utility>
+
+#include "hosts/screen/palette.h"
+#include "hosts/screen/pop_up_frames.h"
+#include "hosts/windows/form_class.h"
+#include "hosts/windows/keyboard_order.h"
+#include "hosts/windows/pop_up_watch.h"
+#include "hosts/windows/views/image_view.h"
+#include "hosts/windows/views/measures.h"
+#include "hosts/windows/views/tab_control_view.h"
+#include "hosts/windows/views/timer_view.h"
+#include "hosts/windows/views/view_factory.h"
+#include "hosts/windows/views/web_browser_view.h"
+#include "hosts/windows/win32/wide_text.h"
+#include "hosts/windows/window_placement.h"
+
+namespace windows {
+namespace {
+
+constexpr UINT_PTR kPopUpClock = 1;
+constexpr UINT kPopUpInterval = 120;  // milliseconds between looks at the pointer
+
+}  // namespace
+
+FormWindow::FormWindow(forms::Form& form, screen::ProgramCalls& calls, ActionQueue& queue, HWND owner)
+    : FormDisplay(form), look_(screen::lookOf(form)), context_{calls, queue} {
+  makeWindow(owner);
+  context_.form = handle();
+  context_.scale = roomOf(handle()).scale;
+  toolTips_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
+                                  0, 0, 0, handle(), nullptr, GetModuleHandleW(nullptr), nullptr));
+  context_.toolTips = toolTips_.get();
+  makeViews();
+}
+
+FormWindow::~FormWindow() {
+  views_.clear();
+  SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
+}
+
+void FormWindow::makeWindow(HWND owner) {
+  const FormStyle style = formStyle(look_);
+  window_.reset(CreateWindowExW(style.extended, formClass(receive), wide(form_.caption()).c_str(), style.basic, 0, 0, 0,
+                                0, look_ == screen::FormLook::palette ? owner : nullptr, nullptr,
+                                GetModuleHandleW(nullptr), this));
+}
+
+void FormWindow::makeViews() {
+  for (forms::Control* control : form_.controls()) {
+    HWND parent = handle();
+    if (const ControlView* container = control->container() == nullptr ? nullptr : viewOf(*control->container())) {
+      parent = container->window();
+    }
+    auto view = makeView(*control, context_, parent);
+    if (view == nullptr) continue;
+    view->syncAll();
+    viewOf_[control] = view.get();
+    views_.push_back(std::move(view));
+  }
+}
+
+ControlView* FormWindow::viewOf(const forms::Control& control) const {
+  const auto found = viewOf_.find(&control);
+  return found == viewOf_.end() ? nullptr : found->second;
+}
+
+// --- what the model says ---
+
+void FormWindow::syncForm(forms::Property property) {
+  switch (property) {
+    case forms::Property::Caption:
+      SetWindowTextW(handle(), wide(form_.caption()).c_str());
+      break;
+    case forms::Property::Left:
+    case forms::Property::Top:
+      if (!placing_) {
+        SetWindowPos(handle(), nullptr, context_.scale.pixels(form_.left()), context_.scale.pixels(form_.top()), 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::show() {
+  ShowWindow(handle(), look_ == screen::FormLook::palette ? SW_SHOWNA : SW_SHOW);
+  if (look_ == screen::FormLook::palette) {
+    keepOnScreen();
+  } else {
+    SetForegroundWindow(handle());
+  }
+  UpdateWindow(handle());
+}
+
+void FormWindow::hide() { ShowWindow(handle(), SW_HIDE); }
+
+void FormWindow::leave() {
+  ShowWindow(handle(), SW_HIDE);
+  KillTimer(handle(), kPopUpClock);
+  SetWindowTextW(handle(), L"");
+  SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
+}
+
+void FormWindow::afterCall() {
+  syncChoices();
+  if (std::exchange(layoutWritten_, false)) InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void FormWindow::controlWritten(const forms::Control& control, forms::Property property) {
+  switch (property) {
+    case forms::Property::Visible:
+      visibilityWritten(control);
+      break;
+    case forms::Property::Left:
+    case forms::Property::Top:
+    case forms::Property::Width:
+    case forms::Property::Height:
+      layoutWritten_ = true;
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::visibilityWritten(const forms::Control& control) {
+  if (!screen::isPopUp(control)) return;
+  if (screen::openPopUps(form_) > 0) {
+    SetTimer(handle(), kPopUpClock, kPopUpInterval, nullptr);
+  } else {
+    KillTimer(handle(), kPopUpClock);
+  }
+}
+
+void FormWindow::paintNow(const forms::Control& control, forms::Property written) {
+  const ControlView* view = viewOf(control);
+  if (view == nullptr || view->window() == nullptr || IsWindowVisible(view->window()) == FALSE) return;
+  if (written != forms::Property::Value && written != forms::Property::Visible) return;
+  RedrawWindow(view->window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void FormWindow::markCurrentTool(const std::string& command) {
+  const std::string picture = screen::pictureOfCommand(command);
+  for (const auto& view : views_) {
+    if (auto* button = dynamic_cast<ToolButtonView*>(view.get())) button->setCurrentPicture(picture);
+  }
+}
+
+// --- what the user does ---
+
+void FormWindow::act(ActionQueue::Action action) {
+  forms::Form& form = form_;
+  context_.queue.post([&form, action = std::move(action)] {
+    if (form.isLoaded()) action();
+  });
+}
+
+void FormWindow::close() {
+  forms::Form& form = form_;
+  context_.queue.postWhenFree([&form] {
+    if (form.isLoaded()) form.userClose();
+  });
+}
+
+void FormWindow::pointAtForm() {
+  if (!form_.MouseMove.hasHandlers()) return;
+  forms::Form& form = form_;
+  act([&form] { form.userMouseMove(); });
+}
+
+// The program closes its pop-up frames when the pointer is on the form; to users everything that is not the menu is the
+// form, other programs' windows too.
+void FormWindow::watchPopUps() {
+  if (pointerIsOutsideMenus(handle())) pointAtForm();
+}
+
+void FormWindow::elapsed(UINT_PTR clock) {
+  if (clock == kPopUpClock) return watchPopUps();
+  for (const auto& view : views_) {
+    const auto* timer = dynamic_cast<const TimerView*>(view.get());
+    if (timer != nullptr && timer->elapsed(clock)) return;
+  }
+}
+
+// Windows gives back the keyboard to the window; the window gives it back to the control that had it.
+void FormWindow::activated(bool active) {
+  if (!active) {
+    lastFocus_ = IsChild(handle(), GetFocus()) != FALSE ? GetFocus() : nullptr;
+    return;
+  }
+  context_.restoresFocus = true;
+  if (IsChild(handle(), lastFocus_) != FALSE && IsWindowVisible(lastFocus_) != FALSE) {
+    SetFocus(lastFocus_);
+  } else {
+    focusFirst();
+  }
+  context_.restoresFocus = false;
+}
+
+// The keyboard begins where nothing is started by a key pressed too early.
+void FormWindow::focusFirst() {
+  for (const HWND each : keyboardOrder(handle())) {
+    if ((GetWindowLongPtrW(each, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW) continue;
+    SetFocus(each);
+    return;
+  }
+}
+
+// Control and Tab turn the headings around the keyboard, or those over the largest page.
+bool FormWindow::turnPage(bool next) {
+  TabControlView* row = nullptr;
+  for (HWND at = GetFocus(); at != nullptr && at != handle() && row == nullptr; at = GetParent(at)) {
+    row = dynamic_cast<TabControlView*>(ControlView::of(at));
+  }
+  const auto area = [](const ControlView& tabs) { return tabs.control().width() * tabs.control().height(); };
+  const TabControlView* around = row;
+  for (const auto& view : views_) {
+    auto* tabs = dynamic_cast<TabControlView*>(view.get());
+    if (around != nullptr || tabs == nullptr || IsWindowVisible(tabs->window()) == FALSE) continue;
+    if (row == nullptr || area(*tabs) > area(*row)) row = tabs;
+  }
+  if (row == nullptr) return false;
+  context_.keyboardUsed = true;
+  SetFocus(row->window());
+  row->turn(next ? 1 : -1);
+  return true;
+}
+
+bool FormWindow::takeMessage(const MSG& message) {
+  if (message.message == WM_LBUTTONDOWN) context_.keyboardUsed = false;
+  if (message.message != WM_KEYDOWN) return false;
+  for (const auto& view : views_) {
+    const auto* page = dynamic_cast<const WebBrowserView*>(view.get());
+    if (page != nullptr && message.wParam != VK_TAB && page->translate(message)) return true;
+  }
+  switch (message.wParam) {
+    case VK_TAB: {
+      const bool next = GetKeyState(VK_SHIFT) >= 0;
+      if (GetKeyState(VK_CONTROL) < 0) return turnPage(next);
+      const HWND target = nextForKeyboard(handle(), message.hwnd, next);
+      if (target == nullptr) return false;
+      context_.keyboardUsed = true;
+      SetFocus(target);
+      if (ControlView* view = ControlView::of(target)) view->pointAt();
+      return true;
+    }
+    case VK_ESCAPE:
+      if (look_ == screen::FormLook::palette) {
+        close();
+        return true;
+      }
+      pointAtForm();
+      return false;
+    default:
+      return false;
+  }
+}
+
+// --- messages ---
+
+void FormWindow::paint() {
+  PAINTSTRUCT painting;
+  const HDC device = BeginPaint(handle(), &painting);
+  RECT box{};
+  GetClientRect(handle(), &box);
+  drawBuffered(device, box, context_.scale, [&](Canvas& canvas) {
+    canvas.fill(box, look_ == screen::FormLook::splash ? screen::palette::kNavyDeep : screen::palette::kPaper);
+    for (const auto& view : views_) {
+      if (view->window() == nullptr) view->paintOnForm(canvas);
+    }
+  });
+  EndPaint(handle(), &painting);
+}
+
+LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM large) {
+  if (const auto answer = reflect(message, wide, large)) return *answer;
+  switch (message) {
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return TRUE;
+    case WM_CLOSE:
+      close();
+      return 0;
+    case WM_SIZE:
+      resized(wide);
+      return 0;
+    case WM_MOVE:
+      reportPlace();
+      return 0;
+    case WM_GETMINMAXINFO:
+      limitSize(*reinterpret_cast<MINMAXINFO*>(large));
+      return 0;
+    case WM_DPICHANGED:
+      changeScale(LOWORD(wide), *reinterpret_cast<const RECT*>(large));
+      return 0;
+    case WM_MOUSEMOVE:
+      pointAtForm();
+      return 0;
+    case WM_LBUTTONDBLCLK: {
+      forms::Form& form = form_;
+      act([&form] { form.userDoubleClick(); });
+      return 0;
+    }
+    case WM_TIMER:
+      elapsed(wide);
+      return 0;
+    case WM_ACTIVATE:
+      activated(LOWORD(wide) != WA_INACTIVE && HIWORD(wide) == 0);
+      return 0;
+    case WM_SETCURSOR:
+      if (!context_.calls.isBusy() || LOWORD(large) != HTCLIENT) break;
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      return TRUE;
+    default:
+      break;
+  }
+  return DefWindowProcW(handle(), message, wide, large);
+}
+
+LRESULT FormWindow::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(large);
+    auto* made = static_cast<FormWindow*>(creation->lpCreateParams);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made));
+  }
+  auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr || form->handle() != window) return DefWindowProcW(window, message, wide, large);
+  return form->handle(message, wide, large);
+}
+
+}  // namespace windows

@@ -1,0 +1,80 @@
+#include "hosts/windows/keyboard_order.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace windows {
+namespace {
+
+RECT rectOf(HWND window) {
+  RECT rect{};
+  GetWindowRect(window, &rect);
+  return rect;
+}
+
+bool isOption(HWND window) {
+  const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+  wchar_t name[16]{};
+  GetClassNameW(window, name, 16);
+  return std::wstring_view(name) == WC_BUTTONW && (style & BS_TYPEMASK) == BS_RADIOBUTTON;
+}
+
+bool isChosen(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+bool takesKeyboard(HWND window) {
+  const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+  constexpr LONG_PTR kWanted = WS_VISIBLE | WS_TABSTOP;
+  return (style & kWanted) == kWanted && (style & WS_DISABLED) == 0;
+}
+
+// The children of a window as they are read: those whose tops differ by less than half of the upper one's height stand
+// in one row.
+std::vector<HWND> childrenInOrder(HWND parent) {
+  std::vector<HWND> children;
+  for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) != 0) children.push_back(child);
+  }
+  std::ranges::stable_sort(children, {}, [](HWND child) { return rectOf(child).top; });
+  for (auto row = children.begin(); row != children.end();) {
+    const RECT first = rectOf(*row);
+    const LONG middle = first.top + (first.bottom - first.top) / 2;
+    const auto end = std::find_if(row, children.end(), [middle](HWND child) { return rectOf(child).top > middle; });
+    std::ranges::stable_sort(row, end, {}, [](HWND child) { return rectOf(child).left; });
+    row = end;
+  }
+  return children;
+}
+
+void addWithin(HWND parent, std::vector<HWND>& order) {
+  const std::vector<HWND> children = childrenInOrder(parent);
+  const auto chosen = std::ranges::find_if(children, [](HWND child) { return isOption(child) && isChosen(child); });
+  bool hasOption = chosen != children.end();
+  for (const HWND child : children) {
+    const bool isOther = isOption(child) && hasOption && (chosen == children.end() || *chosen != child);
+    if (takesKeyboard(child) && !isOther) {
+      order.push_back(child);
+      hasOption = hasOption || isOption(child);
+    }
+    if ((GetWindowLongPtrW(child, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0) addWithin(child, order);
+  }
+}
+
+}  // namespace
+
+std::vector<HWND> keyboardOrder(HWND form) {
+  std::vector<HWND> order;
+  addWithin(form, order);
+  return order;
+}
+
+HWND nextForKeyboard(HWND form, HWND from, bool next) {
+  const std::vector<HWND> order = keyboardOrder(form);
+  if (order.empty()) return nullptr;
+  const auto here =
+      std::ranges::find_if(order, [from](HWND each) { return each == from || IsChild(each, from) != FALSE; });
+  if (here == order.end()) return next ? order.front() : order.back();
+  const auto index = static_cast<std::size_t>(here - order.begin());
+  return order[(index + (next ? 1 : order.size() - 1)) % order.size()];
+}
+
+}  // namespace windows

@@ -1,0 +1,20 @@
+#include "hosts/windows/modal_time.h"
+
+#include "hosts/windows/windows_host.h"
+
+namespace windows {
+
+ModalTime::ModalTime(const WindowsHost& host) : owner_(host.frontWindow()) {
+  for (const FormWindow* window : host.windows()) {
+    const HWND handle = window->handle();
+    if (handle == owner_ || IsWindowEnabled(handle) == FALSE) continue;
+    EnableWindow(handle, FALSE);
+    disabled_.push_back(handle);
+  }
+}
+
+ModalTime::~ModalTime() {
+  for (const HWND window : disabled_) EnableWindow(window, TRUE);
+}
+
+}  // namespace windows
