@@ -93,8 +93,9 @@ void writePicture(const QString& file) {
 
 TEST(StyleCharts, SymbolsOfFontsAndPictures) {
   const QTemporaryDir folder;
-  writePicture(folder.filePath("banda.bmp"));
-  QDir::setSearchPaths(kSymbolFolders, {folder.path()});
+  ASSERT_TRUE(QDir(folder.path()).mkdir("CustSymb"));
+  writePicture(folder.filePath("CustSymb/banda.bmp"));
+  useSymbolsOf(folder.path().toStdString());
   struct Case {
     const char* caption;
     Symbol symbol;
@@ -115,7 +116,7 @@ TEST(StyleCharts, SymbolsOfFontsAndPictures) {
       paintSymbol(painter, c.symbol, cell.center());
     });
   }
-  QDir::setSearchPaths(kSymbolFolders, {});
+  useSymbolsOf({});
   expectDrawing(sheet.picture(), "symbols-of-fonts-and-pictures");
 }
 
