@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "text/utf8.h"
 
@@ -42,6 +43,28 @@ std::string withMethodInLowerCase(const std::string& line) {
   return std::string(kCall) + text::lower(line.substr(kCall.size(), end - kCall.size())) + line.substr(end);
 }
 
+// Takes note of the forms that are loaded. One that is not has no window whose place among the others could be set;
+// only a host without a screen still has a name for it.
+class LoadedForms {
+ public:
+  [[nodiscard]] std::string seenBy(const std::string& line) {
+    const auto word = [&line](std::size_t from) { return line.substr(from, line.find(' ', from) - from); };
+    if (line.starts_with(kForm)) {
+      const std::string name = word(kForm.size());
+      if (line.ends_with(" load")) loaded_.insert(name);
+      if (line.ends_with(" unload")) loaded_.erase(name);
+    }
+    if (!line.starts_with(kOrder)) return line;
+    const std::string name = word(kOrder.size());
+    return loaded_.contains(name) ? line : std::string(kOrder) + "0" + line.substr(kOrder.size() + name.size());
+  }
+
+ private:
+  static constexpr std::string_view kForm = "form ";
+  static constexpr std::string_view kOrder = "zorder ";
+  std::set<std::string> loaded_;
+};
+
 // A page's title or file name, which only a view that shows the page knows.
 std::string withoutProposedName(const std::string& line) {
   constexpr std::string_view kFirstTwo = "savedialog \"Guardar como...\" \"*.html|HTML\" ";
@@ -55,8 +78,10 @@ std::string withoutProposedName(const std::string& line) {
 Lines sharedLines(const Lines& transcript) {
   Lines lines = transcript;
   std::erase_if(lines, isPlace);
-  std::ranges::transform(lines, lines.begin(),
-                         [](const std::string& line) { return withMethodInLowerCase(withoutProposedName(line)); });
+  LoadedForms forms;
+  std::ranges::transform(lines, lines.begin(), [&forms](const std::string& line) {
+    return withMethodInLowerCase(withoutProposedName(forms.seenBy(line)));
+  });
   return lines;
 }
 

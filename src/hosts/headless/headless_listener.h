@@ -26,7 +26,7 @@ class HeadlessListener : public forms::Listener {
   void nodeAdded(forms::TreeView& /*tree*/, const forms::Node& /*node*/) override {}
   void nodeExpanded(forms::TreeView& /*tree*/, const forms::Node& /*node*/) override {}
   void navigated(forms::WebBrowser& /*browser*/, const std::string& /*path*/) override {}
-  [[nodiscard]] std::int64_t windowHandle(const forms::Control& control) override;
+  [[nodiscard]] std::int64_t windowHandle(const forms::Control& control) override { return windows_.handleOf(control); }
   [[nodiscard]] std::string locationName(const forms::WebBrowser& browser) override;
 
  private:

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <deque>
 #include <optional>
 #include <string>
 
+#include "hosts/headless/prepared_answers.h"
 #include "platform/dialogs.h"
 
 namespace headless {
@@ -11,14 +11,14 @@ namespace headless {
 // Save dialogs that are answered at once: with the name prepared, or cancelled. Help is shown nowhere.
 class ScriptedDialogs : public platform::Dialogs {
  public:
-  void prepareName(const std::string& name) { answers_.emplace_back(name); }
-  void prepareCancel() { answers_.emplace_back(std::nullopt); }
+  void prepareName(const std::string& name) { answers_.prepare(name); }
+  void prepareCancel() { answers_.prepare(std::nullopt); }
 
   [[nodiscard]] std::string save(const std::string& title, const std::string& filter, const std::string& name) override;
   void help(const std::string& /*file*/, int /*command*/) override {}
 
  private:
-  std::deque<std::optional<std::string>> answers_;
+  PreparedAnswers<std::optional<std::string>> answers_;
 };
 
 }  // namespace headless

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <deque>
 #include <string>
 
+#include "hosts/headless/prepared_answers.h"
 #include "platform/messages.h"
 
 namespace headless {
@@ -11,12 +11,12 @@ namespace headless {
 class ScriptedMessages : public platform::Messages {
  public:
   // What the next box that has no answer yet gets.
-  void prepare(platform::Button answer) { answers_.push_back(answer); }
+  void prepare(platform::Button answer) { answers_.prepare(answer); }
 
   platform::Button show(const std::string& text, int style, const std::string& title) override;
 
  private:
-  std::deque<platform::Button> answers_;
+  PreparedAnswers<platform::Button> answers_;
 };
 
 }  // namespace headless

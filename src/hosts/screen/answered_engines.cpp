@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/programs.h"
+#include "text/failure.h"
 
 namespace screen {
 namespace {
@@ -32,22 +33,28 @@ class AnsweredEngine : public platform::MapEngine {
       : inner_(std::move(inner)), calls_(calls) {}
 
   void run(const std::string& statements) override {
-    inner_->run(statements);
-    leaveIfEnded();
+    answered([&] { inner_->run(statements); });
   }
   [[nodiscard]] platform::Variant eval(const std::string& expression) override {
-    platform::Variant result = inner_->eval(expression);
-    leaveIfEnded();
+    platform::Variant result;
+    answered([&] { result = inner_->eval(expression); });
     return result;
   }
   void setCallback(std::shared_ptr<platform::CallbackObject> callback) override {
     if (callback != nullptr) callback = std::make_shared<AnsweringCallback>(std::move(callback), calls_);
-    inner_->setCallback(std::move(callback));
+    answered([&] { inner_->setCallback(std::move(callback)); });
   }
 
  private:
-  // The program may have ended in a callback during the call; then it ends in the caller too.
-  void leaveIfEnded() const {
+  // The program may have ended in a callback during the call; then it ends in the caller too, whatever else the call
+  // came to.
+  template <typename Call>
+  void answered(const Call& call) const {
+    try {
+      call();
+    } catch (const Failure&) {
+      if (!calls_.hasEnded()) throw;
+    }
     if (calls_.hasEnded()) throw platform::ProgramEnd{};
   }
 

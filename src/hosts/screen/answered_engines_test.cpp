@@ -3,17 +3,22 @@
 #include <gtest/gtest.h>
 
 #include "platform/programs.h"
+#include "text/failure.h"
 
 namespace screen {
 namespace {
 
 class Engine : public platform::MapEngine {
  public:
-  void run(const std::string& statements) override { callback->invoke("Info", statements); }
+  void run(const std::string& statements) override {
+    callback->invoke("Info", statements);
+    if (fails) throw failures::noObject();
+  }
   platform::Variant eval(const std::string& /*expression*/) override { return {}; }
   void setCallback(std::shared_ptr<platform::CallbackObject> object) override { callback = std::move(object); }
 
   std::shared_ptr<platform::CallbackObject> callback;
+  bool fails = false;
 };
 
 class OneEngine : public platform::MapEngines {
@@ -63,7 +68,9 @@ TEST(AnsweredEngines, CallBackThroughTheProgramsDoor) {
   EXPECT_EQ(inner.engine->callback, nullptr);
 }
 
-TEST(AnsweredEngines, EndTheCallDuringWhichTheProgramEnded) {
+class EndedProgram : public ::testing::TestWithParam<bool> {};
+
+TEST_P(EndedProgram, EndsTheCallTooWhateverItCameTo) {
   class EndingCallback : public Callback {
    public:
     using Callback::Callback;
@@ -73,18 +80,25 @@ TEST(AnsweredEngines, EndTheCallDuringWhichTheProgramEnded) {
   };
   ProgramCalls calls;
   OneEngine inner;
+  inner.engine->fails = GetParam();
   AnsweredEngines engines(inner, calls);
   const auto engine = engines.create("MapInfo.runtime");
   engine->setCallback(std::make_shared<EndingCallback>(calls));
 
   bool wentOn = false;
   calls.run([&] {
-    engine->run("MI:1,2");
+    try {
+      engine->run("MI:1,2");
+    } catch (const Failure&) {
+      wentOn = true;
+    }
     wentOn = true;
   });
   EXPECT_TRUE(calls.hasEnded());
   EXPECT_FALSE(wentOn);
 }
+
+INSTANTIATE_TEST_SUITE_P(AnsweredEngines, EndedProgram, ::testing::Bool());
 
 TEST(AnsweredEngines, PassOnThatThereIsNone) {
   ProgramCalls calls;

@@ -1,5 +1,6 @@
 #include "hosts/screen/program_calls.h"
 
+#include <exception>
 #include <utility>
 
 #include "platform/programs.h"
@@ -16,7 +17,9 @@ void ProgramCalls::run(const Action& action) {
   } catch (const platform::ProgramEnd&) {
     ended_ = true;
   } catch (const Failure& failure) {
-    if (failed) failed(failure.description());
+    tell(failure.description());
+  } catch (const std::exception& fault) {
+    tell(fault.what());
   }
   --depth_;
   if (depth_ > 0) return;
@@ -27,6 +30,10 @@ void ProgramCalls::run(const Action& action) {
   }
   if (returned) returned();
   for (const Action& next : std::exchange(waiting_, {})) run(next);
+}
+
+void ProgramCalls::tell(const std::string& fault) const {
+  if (failed) failed(fault);
 }
 
 void ProgramCalls::runWhenFree(Action action) {

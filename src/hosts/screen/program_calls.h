@@ -31,6 +31,8 @@ class ProgramCalls {
   [[nodiscard]] bool hasEnded() const { return ended_; }
 
  private:
+  void tell(const std::string& fault) const;
+
   int depth_ = 0;
   bool ended_ = false;
   std::vector<Action> waiting_;

@@ -39,6 +39,7 @@ void ActionQueue::runNext() {
   const Action next = std::move(actions_.front());
   actions_.pop_front();
   next();
+  wake();  // one message for all that wait would leave the others behind
 }
 
 LRESULT ActionQueue::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {

@@ -49,6 +49,15 @@ TEST_F(Queue, ForgetsWhatTheUserDoesWhileTheProgramWorks) {
   EXPECT_EQ(said, (Words{"cierre", "propio"}));
 }
 
+TEST_F(Queue, LeavesNothingBehindItsOwnActions) {
+  calls.run([this] {
+    queue.postOwn(saying("propio"));
+    queue.postWhenFree(saying("cierre"));
+  });
+  runMessages();
+  EXPECT_EQ(said, (Words{"propio", "cierre"}));
+}
+
 TEST_F(Queue, KeepsWhatWaitedWhenACallBegins) {
   queue.post(saying("antes"));
   calls.run([] { runMessages(); });

@@ -15,7 +15,7 @@ namespace windows {
 // Shows the program's forms as native windows, on the thread that made it. Handles of windows are their HWND.
 //
 // What the user does reaches the models after the control is done with its message, through an action queue: a message
-// loop (MessageLoop::run, or any other, as a modal box's) must run for it. While a call into the program is under way,
+// loop (runMessages, or any other, as a modal box's) must run for it. While a call into the program is under way,
 // what the user does to controls is not heard; closing, sizes and ticks wait until it has returned.
 class WindowsHost : public screen::DisplayListener {
  public:

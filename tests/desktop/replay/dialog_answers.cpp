@@ -4,20 +4,11 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <utility>
 
 namespace desktop_replay {
 namespace {
 
 constexpr int kBlink = 2;  // milliseconds
-
-template <class Answer>
-std::optional<Answer> taken(std::deque<Answer>& answers) {
-  if (answers.empty()) return std::nullopt;
-  Answer first = std::move(answers.front());
-  answers.pop_front();
-  return first;
-}
 
 QMessageBox::ButtonRole roleOf(platform::Button button) {
   switch (button) {
@@ -55,9 +46,9 @@ void DialogAnswers::look() {
 }
 
 void DialogAnswers::answer(QDialog& dialog) {
-  if (auto* box = qobject_cast<QMessageBox*>(&dialog)) return buttonOf(*box, taken(buttons_)).click();
+  if (auto* box = qobject_cast<QMessageBox*>(&dialog)) return buttonOf(*box, buttons_.take()).click();
   auto* files = qobject_cast<QFileDialog*>(&dialog);
-  const auto name = taken(names_).value_or(std::nullopt);
+  const auto name = names_.take().value_or(std::nullopt);
   if (files == nullptr || !name) return dialog.reject();
   files->selectFile(QString::fromStdString(*name));
   QMetaObject::invokeMethod(files, "accept");

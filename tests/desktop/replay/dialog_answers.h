@@ -2,10 +2,10 @@
 
 #include <QPointer>
 #include <QTimer>
-#include <deque>
 #include <optional>
 #include <string>
 
+#include "hosts/headless/prepared_answers.h"
 #include "platform/messages.h"
 
 class QDialog;
@@ -18,9 +18,9 @@ class DialogAnswers {
  public:
   DialogAnswers();
 
-  void prepareAnswer(platform::Button button) { buttons_.push_back(button); }
-  void prepareName(const std::string& name) { names_.emplace_back(name); }
-  void prepareCancel() { names_.emplace_back(std::nullopt); }
+  void prepareAnswer(platform::Button button) { buttons_.prepare(button); }
+  void prepareName(const std::string& name) { names_.prepare(name); }
+  void prepareCancel() { names_.prepare(std::nullopt); }
 
  private:
   void look();
@@ -28,8 +28,8 @@ class DialogAnswers {
 
   QTimer timer_;
   QPointer<QDialog> answered_;
-  std::deque<platform::Button> buttons_;
-  std::deque<std::optional<std::string>> names_;
+  headless::PreparedAnswers<platform::Button> buttons_;
+  headless::PreparedAnswers<std::optional<std::string>> names_;
 };
 
 }  // namespace desktop_replay

@@ -103,9 +103,10 @@ HRESULT PageSite::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
 }
 
 // Where a page wants to go, and windows of its own that it wants to open. No exception leaves it.
-HRESULT PageSite::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
+HRESULT PageSite::Invoke(DISPID event, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
   constexpr UINT kAddress = 5;  // of BeforeNavigate2, from the last argument
   constexpr UINT kArguments = 7;
+  if ((flags & DISPATCH_PROPERTYGET) != 0) return DISP_E_MEMBERNOTFOUND;  // the control's own ways are kept
   if (parameters == nullptr) return E_INVALIDARG;
   if (event == DISPID_NEWWINDOW2 || event == DISPID_NEWWINDOW3) {
     for (UINT i = 0; i < parameters->cArgs; ++i) cancel(argument(*parameters, i));

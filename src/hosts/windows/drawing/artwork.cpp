@@ -30,12 +30,10 @@ std::unique_ptr<Gdiplus::Bitmap> read(const std::string& name) {
   if (found == nullptr) return nullptr;
   const DWORD size = SizeofResource(nullptr, found);
   const void* bytes = LockResource(LoadResource(nullptr, found));
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-  if (bytes == nullptr || memory == nullptr) return nullptr;
-  std::copy_n(static_cast<const char*>(bytes), size, static_cast<char*>(GlobalLock(memory)));
-  GlobalUnlock(memory);
+  if (bytes == nullptr) return nullptr;
   ComPtr<IStream> stream;
-  if (FAILED(CreateStreamOnHGlobal(memory, TRUE, stream.put()))) return nullptr;
+  if (FAILED(CreateStreamOnHGlobal(nullptr, TRUE, stream.put()))) return nullptr;
+  if (FAILED(stream->Write(bytes, size, nullptr)) || FAILED(stream->Seek({}, STREAM_SEEK_SET, nullptr))) return nullptr;
   auto picture = std::make_unique<Gdiplus::Bitmap>(stream.get());
   return picture->GetLastStatus() == Gdiplus::Ok ? std::move(picture) : nullptr;
 }

@@ -15,7 +15,8 @@ constexpr const wchar_t* kViewProperty = L"VeldoriaView";
 }  // namespace
 
 ControlView* ControlView::of(HWND window) {
-  return window == nullptr ? nullptr : static_cast<ControlView*>(GetPropW(window, kViewProperty));
+  if (window == nullptr || GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) return nullptr;
+  return static_cast<ControlView*>(GetPropW(window, kViewProperty));
 }
 
 void ControlView::create(const wchar_t* windowClass, DWORD style, DWORD extendedStyle) {

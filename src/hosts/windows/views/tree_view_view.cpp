@@ -208,12 +208,14 @@ void TreeViewView::offerMenu(LPARAM point) {
     at = {0, 0};
     ClientToScreen(window(), &at);
   }
+  const HWND own = window();
   const HMENU menu = CreatePopupMenu();
   AppendMenuW(menu, chosen() == nullptr ? MF_GRAYED : MF_ENABLED, kCopy, L"&Copiar\tCtrl+C");
   AppendMenuW(menu, items_.empty() ? MF_GRAYED : MF_ENABLED, kCopyAll, L"Copiar &todo");
   const auto command =
-      static_cast<UINT_PTR>(TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, 0, window(), nullptr));
+      static_cast<UINT_PTR>(TrackPopupMenu(menu, TPM_RETURNCMD | TPM_RIGHTBUTTON, at.x, at.y, 0, own, nullptr));
   DestroyMenu(menu);
+  if (IsWindow(own) == FALSE) return;  // the form may have been closed meanwhile, and this with it
   if (command == kCopy) copyChosen();
   if (command == kCopyAll) copyText(window(), screen::treeText(tree_).text);
 }

@@ -1,0 +1,178 @@
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "hosts/windows/win32/handles.h"
+#include "hosts/windows/win32/wide_text.h"
+#include "replay/stage.h"
+#include "replay/test_place.h"
+#include "tour/outside_window.h"
+
+// Starts the program as its user does and walks through its four modes, from outside:
+//
+//   windows_tour PROGRAM PICTURES
+//
+// Where something is worth a picture it prints "picture NAME" and waits until the file PICTURES\NAME.png is there. What
+// stands for the map engine is told where its maps are by the environment (test_place.h). Last it prints "ALL n
+// PASSED".
+namespace {
+
+namespace fs = std::filesystem;
+using namespace wintour;
+
+constexpr const wchar_t* kSplash = L"Estudio de Mortalidad en Veldoria";
+constexpr const wchar_t* kMain = L"Mortalidad en Veldoria 1999-2002";
+constexpr const wchar_t* kSelector = L"Seleccionar mapa temático";
+enum Mode { kTables, kMaps, kData, kStatistics };
+
+class Tour {
+ public:
+  Tour(const fs::path& program, fs::path pictures) : pictures_(std::move(pictures)) {
+    STARTUPINFOW how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION started{};
+    if (CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, program.parent_path().c_str(),
+                       &how, &started) == 0) {
+      throw std::runtime_error("the program does not start");
+    }
+    process_.reset(started.hProcess);
+    CloseHandle(started.hThread);
+  }
+  ~Tour() { TerminateProcess(process_.get(), 1); }
+  Tour(const Tour&) = delete;
+  Tour& operator=(const Tour&) = delete;
+
+  int run() {
+    const HWND splash = awaitWindow(kSplash);
+    waitUntil("the splash is painted", [&] { return isIdle(splash) && isIdle(splash); });
+    picture("portada");
+    doubleClickOn(splash);
+    main_ = awaitWindow(kMain);
+    waitUntil("the splash goes", [&] { return IsWindow(splash) == 0; });
+    settle();
+    visitStatistics();
+    visitData();
+    visitMaps();
+    visitTables();
+    leave();
+    return pictureCount_;
+  }
+
+ private:
+  void visitStatistics() {
+    picture("estadisticas");
+    clickOn(map());
+    waitUntil("figures of the place", [this] { return nodeCount() > 0; });
+    settle();
+    picture("estadisticas_lugar");
+  }
+
+  void visitData() {
+    goTo(kData);
+    picture("datos");
+    pickFirst("a unit");
+    waitUntil("figures of the unit", [this] { return nodeCount() > 3; });
+    settle();
+    picture("datos_unidad");
+  }
+
+  void visitMaps() {
+    goTo(kMaps);
+    (void)awaitWindow(kSelector);
+    settle();
+    picture("mapas");
+  }
+
+  void visitTables() {
+    goTo(kTables);
+    waitUntil("the selector goes", [] { return FindWindowW(nullptr, kSelector) == nullptr; });
+    picture("tablas");
+    clickOn(childWithText(main_, L"Información"));
+    settle();
+    picture("menu");
+  }
+
+  void leave() {
+    clickOn(childWithText(main_, L"Salir"));
+    if (WaitForSingleObject(process_.get(), 30000) != WAIT_OBJECT_0) throw std::runtime_error("it does not end");
+  }
+
+  // The native control notifies its window as if the user had chosen the tab.
+  void goTo(Mode mode) const {
+    for (const HWND tabs : childrenOf(main_, WC_TABCONTROLW)) {
+      if (SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) != 4 || GetParent(tabs) != main_) continue;
+      if (GetWindowLongPtrW(tabs, GWL_STYLE) & TCS_FIXEDWIDTH) continue;  // the years
+      PostMessageW(tabs, TCM_SETCURFOCUS, mode, 0);
+      settle();
+      return;
+    }
+    throw std::runtime_error("there are no main tabs");
+  }
+
+  void pickFirst(const std::string& what) const {
+    for (const HWND combo : childrenOf(main_, WC_COMBOBOXW)) {
+      if (SendMessageW(combo, CB_GETCOUNT, 0, 0) < 1) continue;
+      SendMessageW(combo, CB_SETCURSEL, 0, 0);
+      PostMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(combo));
+      return;
+    }
+    throw std::runtime_error("there is no choice of " + what);
+  }
+
+  [[nodiscard]] HWND map() const {
+    const auto maps = childrenOf(main_, L"MapEngineUnderTestMap");
+    if (maps.empty()) throw std::runtime_error("there is no map");
+    return maps.back();
+  }
+
+  [[nodiscard]] LRESULT nodeCount() const {
+    const auto trees = childrenOf(main_, WC_TREEVIEWW);
+    return trees.empty() ? 0 : SendMessageW(trees.front(), TVM_GETCOUNT, 0, 0);
+  }
+
+  // The window answers, and no notice asks to wait any more.
+  void settle() const {
+    for (int times = 0; times < 3; ++times) {
+      waitUntil("the program answers", [this] { return isIdle(main_); });
+      waitUntil("no notice is left", [this] {
+        for (const HWND child : childrenOf(main_, WC_STATICW)) {
+          if (textOf(child) == L"Espere por favor...") return false;
+        }
+        return true;
+      });
+    }
+  }
+
+  void picture(const std::string& name) {
+    const fs::path file = pictures_ / (std::to_string(++pictureCount_) + "_" + name + ".png");
+    std::cout << "picture " << file.filename().string() << std::endl;
+    waitUntil("picture " + name, [&] { return fs::exists(file); });
+  }
+
+  windows::KernelHandle process_;
+  fs::path pictures_;
+  HWND main_ = nullptr;
+  int pictureCount_ = 0;
+};
+
+}  // namespace
+
+int wmain(int count, wchar_t** words) {
+  if (count != 3) return 2;
+  try {
+    const wintest::TestPlace place = wintest::TestPlace::fromEnvironment();
+    place.tellEngine("tour");
+    wintest::Stage machine(place.viewer);
+    machine.install(std::nullopt);
+    Tour tour(words[1], words[2]);
+    const int pictures = tour.run();
+    std::cout << "ALL " << pictures << " PASSED" << std::endl;
+    return 0;
+  } catch (const std::exception& problem) {
+    std::cout << "windows_tour: " << problem.what() << std::endl;
+    return 1;
+  }
+}
