@@ -1,8 +1,10 @@
 #include "replay/stage.h"
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <stdexcept>
+#include <thread>
 
 #include "hosts/headless/installed_programs.h"
 #include "hosts/headless/registry_file.h"
@@ -43,14 +45,24 @@ void uninstallAll() {
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, paths.c_str());
 }
 
+// A program that was started just now cannot be removed until it has ended. A folder that holds something else stays.
+void removeSoon(const fs::path& path) {
+  constexpr int kTries = 500;
+  constexpr auto kBlink = std::chrono::milliseconds(20);
+  std::error_code problem;
+  for (int tries = 0; tries < kTries && fs::is_regular_file(path, problem) && !fs::remove(path, problem); ++tries) {
+    std::this_thread::sleep_for(kBlink);
+  }
+  if (fs::is_directory(path, problem)) fs::remove(path, problem);
+}
+
 bool isProgram(const std::string& path) { return text::lower(path).ends_with(".exe"); }
 
 }  // namespace
 
 Stage::~Stage() {
   std::ranges::reverse(created_);
-  std::error_code ignored;
-  for (const fs::path& path : created_) fs::remove(path, ignored);
+  std::ranges::for_each(created_, removeSoon);
 }
 
 void Stage::install(const std::optional<std::string>& registryFile) {
