@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "motor/tables/edge.h"
+
 namespace motor {
 namespace {
 
@@ -14,11 +16,6 @@ std::vector<Part> partsOf(const MapObject& object) {
   for (std::size_t i = 0; i < object.partCount(); ++i) parts.emplace_back(object.parts[i], object.partEnd(i));
   return parts;
 }
-
-// Whether the horizontal line through `y` crosses the segment; its lower end belongs to it, its upper end does not.
-bool crosses(Point a, Point b, double y) { return (a.y > y) != (b.y > y); }
-
-double crossingX(Point a, Point b, double y) { return a.x + (y - a.y) / (b.y - a.y) * (b.x - a.x); }
 
 PointSide sideOf(const MapObject& object, const std::vector<Part>& rings, Point p) {
   PointSide side(p);
@@ -85,13 +82,9 @@ Point areaCentroid(const MapObject& object, const std::vector<Part>& polygon) {
 
 Point middleOfWidestSpan(const MapObject& object, double y, Point otherwise) {
   std::vector<double> crossings;
-  for (const auto& [begin, end] : partsOf(object)) {
-    for (std::size_t i = begin; i + 1 < end; ++i) {
-      const Point a = object.points[i];
-      const Point b = object.points[i + 1];
-      if (crosses(a, b, y)) crossings.push_back(crossingX(a, b, y));
-    }
-  }
+  forEachEdge(object, [&](const Edge& edge) {
+    if (edge.crosses(y)) crossings.push_back(edge.crossingX(y));
+  });
   std::sort(crossings.begin(), crossings.end());
   Point best = otherwise;
   double width = 0;
@@ -163,11 +156,7 @@ void Box::add(const Box& other) {
 bool contains(const MapObject& object, Point p) {
   if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
   PointSide side(p);
-  for (std::size_t part = 0; part < object.partCount(); ++part) {
-    for (std::size_t i = object.parts[part]; i + 1 < object.partEnd(part); ++i) {
-      side.pass({object.points[i], object.points[i + 1]});
-    }
-  }
+  forEachEdge(object, [&side](const Edge& edge) { side.pass(edge); });
   return side.isCovered();
 }
 

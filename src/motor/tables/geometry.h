@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -58,41 +57,6 @@ struct MapObject {
   [[nodiscard]] std::size_t partEnd(std::size_t part) const {
     return part + 1 < parts.size() ? parts[part + 1] : points.size();
   }
-};
-
-struct Edge {
-  Point a;
-  Point b;
-};
-
-// On which side of a region's edges a point lies, by the even-odd rule: to be told each edge that its y meets once, and
-// any others.
-class PointSide {
- public:
-  explicit PointSide(Point p) : p_(p) {}
-
-  // Most edges lie above the point or below it, and tell nothing.
-  void pass(const Edge& edge) {
-    const auto& [a, b] = edge;
-    if ((a.y > p_.y) == (b.y > p_.y) && a.y != p_.y && b.y != p_.y) return;
-    if (isOn(edge)) onBorder_ = true;
-    if ((a.y > p_.y) != (b.y > p_.y) && p_.x < a.x + (p_.y - a.y) / (b.y - a.y) * (b.x - a.x)) inside_ = !inside_;
-  }
-  [[nodiscard]] bool isOnBorder() const { return onBorder_; }
-  // Inside or on the border.
-  [[nodiscard]] bool isCovered() const { return onBorder_ || inside_; }
-
- private:
-  [[nodiscard]] bool isOn(const Edge& edge) const {
-    const auto& [a, b] = edge;
-    const double cross = (b.x - a.x) * (p_.y - a.y) - (b.y - a.y) * (p_.x - a.x);
-    return cross == 0 && p_.x >= std::min(a.x, b.x) && p_.x <= std::max(a.x, b.x) && p_.y >= std::min(a.y, b.y) &&
-           p_.y <= std::max(a.y, b.y);
-  }
-
-  Point p_;
-  bool onBorder_ = false;
-  bool inside_ = false;
 };
 
 // Whether a point lies in a region (even-odd; a point on the border counts as inside). False for other kinds.

@@ -8,15 +8,6 @@ namespace {
 
 constexpr std::size_t kEdgesPerBand = 4;
 
-template <typename Visit>
-void forEachEdge(const MapObject& region, const Visit& visit) {
-  for (std::size_t part = 0; part < region.partCount(); ++part) {
-    for (std::size_t i = region.parts[part]; i + 1 < region.partEnd(part); ++i) {
-      visit(Edge{region.points[i], region.points[i + 1]});
-    }
-  }
-}
-
 }  // namespace
 
 RegionIndex::RegionIndex(const MapObject& region)

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "motor/tables/geometry.h"
+#include "motor/tables/edge.h"
 
 namespace motor {
 

@@ -55,5 +55,15 @@ TEST_F(SelectTest, saysWhatIsWrong) {
   for (const Case& c : cases) EXPECT_EQ(error(c.statement), c.message) << c.statement;
 }
 
+TEST_F(SelectTest, addsUpNoLogicalValues) {
+  TableContents contents;
+  contents.columns = {{"alta", Column::Type::logical, 0, 0}};
+  contents.data.emplace_back(std::vector<double>{1, 0});
+  contents.deleted = {false, false};
+  contents.objects = ObjectSet({}, {ObjectSet::kNone, ObjectSet::kNone});
+  session_.open("altas", std::make_shared<const BaseTable>(std::move(contents)));
+  EXPECT_EQ(error("select sum(alta) from altas"), "línea 1, columna 12: «función de grupo»: se esperaba un número");
+}
+
 }  // namespace
 }  // namespace motor

@@ -2,54 +2,45 @@
 
 #include <algorithm>
 
+#include "motor/tables/edge.h"
+
 namespace motor {
 
 namespace {
 
-// Twice the signed area of a triangle: on which side of the line a-b the point c lies.
-double side(Point a, Point b, Point c) { return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x); }
-
-bool isBetween(Point a, Point b, Point p) {
-  return p.x >= std::min(a.x, b.x) && p.x <= std::max(a.x, b.x) && p.y >= std::min(a.y, b.y) &&
-         p.y <= std::max(a.y, b.y);
+bool edgesCross(const Edge& e, const Edge& f) {
+  const double fa = e.sideOf(f.a);
+  const double fb = e.sideOf(f.b);
+  const double ea = f.sideOf(e.a);
+  const double eb = f.sideOf(e.b);
+  return ((fa > 0) != (fb > 0)) && ((ea > 0) != (eb > 0)) && fa != 0 && fb != 0 && ea != 0 && eb != 0;
 }
 
-bool segmentsCross(Point a, Point b, Point c, Point d) {
-  const double abc = side(a, b, c);
-  const double abd = side(a, b, d);
-  const double cda = side(c, d, a);
-  const double cdb = side(c, d, b);
-  return ((abc > 0) != (abd > 0)) && ((cda > 0) != (cdb > 0)) && abc != 0 && abd != 0 && cda != 0 && cdb != 0;
+bool edgesMeet(const Edge& e, const Edge& f) {
+  return edgesCross(e, f) || e.holds(f.a) || e.holds(f.b) || f.holds(e.a) || f.holds(e.b);
 }
 
-bool segmentsMeet(Point a, Point b, Point c, Point d) {
-  if (segmentsCross(a, b, c, d)) return true;
-  return (side(a, b, c) == 0 && isBetween(a, b, c)) || (side(a, b, d) == 0 && isBetween(a, b, d)) ||
-         (side(c, d, a) == 0 && isBetween(c, d, a)) || (side(c, d, b) == 0 && isBetween(c, d, b));
-}
-
-// Calls `test` with the ends of each segment until it is true; a single point is a segment without length.
+// Calls `test` with each edge until it is true; a single point is an edge without length.
 template <typename Test>
-bool anySegment(const MapObject& object, const Test& test) {
+bool anyEdge(const MapObject& object, const Test& test) {
   for (std::size_t part = 0; part < object.partCount(); ++part) {
     const std::size_t begin = object.parts[part];
     const std::size_t end = object.partEnd(part);
-    if (end - begin == 1 && test(object.points[begin], object.points[begin])) return true;
+    if (end - begin == 1 && test(Edge{object.points[begin], object.points[begin]})) return true;
     for (std::size_t i = begin; i + 1 < end; ++i) {
-      if (test(object.points[i], object.points[i + 1])) return true;
+      if (test(Edge{object.points[i], object.points[i + 1]})) return true;
     }
   }
   return false;
 }
 
 template <typename Pair>
-bool anyPairOfSegments(const MapObject& a, const MapObject& b, const Pair& pair) {
-  return anySegment(a, [&](Point p, Point q) {
+bool anyPairOfEdges(const MapObject& a, const MapObject& b, const Pair& pair) {
+  return anyEdge(a, [&](const Edge& e) {
     Box box;
-    box.add(p);
-    box.add(q);
-    if (!box.intersects(b.bounds)) return false;
-    return anySegment(b, [&](Point r, Point s) { return pair(p, q, r, s); });
+    box.add(e.a);
+    box.add(e.b);
+    return box.intersects(b.bounds) && anyEdge(b, [&](const Edge& f) { return pair(e, f); });
   });
 }
 
@@ -59,14 +50,14 @@ bool holdsAnyPoint(const MapObject& region, const MapObject& object) {
 
 bool share(const MapObject& a, const MapObject& b) {
   if (!a.bounds.intersects(b.bounds)) return false;
-  return anyPairOfSegments(a, b, segmentsMeet) || holdsAnyPoint(a, b) || holdsAnyPoint(b, a);
+  return anyPairOfEdges(a, b, edgesMeet) || holdsAnyPoint(a, b) || holdsAnyPoint(b, a);
 }
 
 bool holdsAll(const MapObject& region, const MapObject& object) {
   if (!region.bounds.intersects(object.bounds) || object.points.empty()) return false;
   const bool inside =
       std::all_of(object.points.begin(), object.points.end(), [&](Point p) { return contains(region, p); });
-  return inside && !anyPairOfSegments(object, region, segmentsCross);
+  return inside && !anyPairOfEdges(object, region, edgesCross);
 }
 
 bool holdsCentroid(const MapObject& region, const MapObject& object) {

@@ -131,34 +131,28 @@ bool SelectScope::related(SpatialRelation relation, const ObjectPtr& left, const
   return motor::related(relation, *left, *right);
 }
 
-const std::vector<double>* SelectScope::columnBehind(const Expression& expression) const {
+SelectScope::NumberSource SelectScope::sourceOf(const Expression& expression) const {
   const auto* reference = dynamic_cast<const NameReference*>(&expression);
-  if (reference == nullptr || bound(*reference).kind != RowBinding::Kind::column) return nullptr;
+  if (reference == nullptr || bound(*reference).kind != RowBinding::Kind::column) return {&expression};
   const RowBinding& binding = bound(*reference);
-  const BaseTable* base = tables_[binding.table].base;
-  return base == nullptr ? nullptr : base->numbers(binding.column);
+  const SelectTable& table = tables_[binding.table];
+  const bool isLogical = table.table->columns()[binding.column].type == Column::Type::logical;
+  if (table.base == nullptr || isLogical) return {&expression};
+  return {&expression, table.base->numbers(binding.column), binding.table};
 }
 
-std::vector<double> SelectScope::numbersOf(const Expression& expression) const {
-  std::vector<double> numbers;
-  numbers.reserve(group_->size());
-  if (const std::vector<double>* column = columnBehind(expression)) {
-    const std::size_t table = bound(dynamic_cast<const NameReference&>(expression)).table;
-    for (std::size_t i = 0; i < group_->size(); ++i) numbers.push_back((*column)[(*group_)[i][table] - 1]);
-    return numbers;
+std::optional<double> SelectScope::numberAt(const NumberSource& source, std::span<const RowId> tuple) const {
+  if (source.column != nullptr) {
+    const double number = (*source.column)[tuple[source.table] - 1];
+    return std::isnan(number) ? std::nullopt : std::optional(number);
   }
-  for (std::size_t i = 0; i < group_->size(); ++i) {
-    goTo((*group_)[i]);
-    const Value value = expression.evaluate(*this);
-    if (!value.isEmpty() && value.number() == nullptr) {
-      throw LanguageError(expression.position(), "función de grupo", "se esperaba un número");
-    }
-    // A number that is none is a fault of the expression, which the sum shows.
-    const double number = value.isEmpty() ? 0 : *value.number();
-    numbers.push_back(value.isEmpty() ? std::nan("") : std::isnan(number) ? HUGE_VAL : number);
+  goTo(tuple);
+  const Value value = source.expression->evaluate(*this);
+  if (value.isEmpty()) return std::nullopt;
+  if (value.number() == nullptr) {
+    throw LanguageError(source.expression->position(), "función de grupo", "se esperaba un número");
   }
-  if (group_->size() > 0) goTo((*group_)[0]);
-  return numbers;
+  return *value.number();
 }
 
 Value SelectScope::aggregate(const Aggregate& aggregate) const {
@@ -168,18 +162,19 @@ Value SelectScope::aggregate(const Aggregate& aggregate) const {
   double weights = 0;
   double least = std::numeric_limits<double>::infinity();
   double greatest = -least;
-  const std::vector<double> numbers = numbersOf(*aggregate.value());
-  const std::vector<double> weighing = aggregate.weight() ? numbersOf(*aggregate.weight()) : std::vector<double>();
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    const double number = numbers[i];
-    if (std::isnan(number)) continue;
-    double weight = weighing.empty() ? 1 : weighing[i];
-    if (std::isnan(weight)) weight = 0;
-    total += number * weight;
+  const NumberSource values = sourceOf(*aggregate.value());
+  std::optional<NumberSource> weighing;
+  if (aggregate.weight()) weighing = sourceOf(*aggregate.weight());
+  for (std::size_t i = 0; i < group_->size(); ++i) {
+    const std::optional<double> number = numberAt(values, (*group_)[i]);
+    if (!number) continue;
+    const double weight = weighing ? numberAt(*weighing, (*group_)[i]).value_or(0) : 1;
+    total += *number * weight;
     weights += weight;
-    least = std::min(least, number);
-    greatest = std::max(greatest, number);
+    least = std::min(least, *number);
+    greatest = std::max(greatest, *number);
   }
+  if (group_->size() > 0) goTo((*group_)[0]);
   if (!std::isfinite(total)) {
     throw LanguageError(aggregate.position(), "función de grupo", "el resultado no es un número finito");
   }

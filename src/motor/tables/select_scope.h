@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -93,10 +94,16 @@ class SelectScope final : public Scope {
   [[nodiscard]] RowBinding bindIn(std::size_t table, const NameReference& reference) const;
   [[nodiscard]] const RowBinding& bound(const NameReference& reference) const;
   [[nodiscard]] ObjectPtr objectInSession(std::size_t table, const ObjectPtr& object) const;
-  // The number of each tuple of the group, NaN where there is none.
-  [[nodiscard]] std::vector<double> numbersOf(const Expression& expression) const;
-  // A table's own column of numbers, where an expression is no more than that; else null.
-  [[nodiscard]] const std::vector<double>* columnBehind(const Expression& expression) const;
+  // Where an aggregate's numbers come from: a table's own column of numbers where the expression is no more than that,
+  // else what it gives for each tuple.
+  struct NumberSource {
+    const Expression* expression = nullptr;
+    const std::vector<double>* column = nullptr;
+    std::size_t table = 0;
+  };
+  [[nodiscard]] NumberSource sourceOf(const Expression& expression) const;
+  // The number for a tuple; none where there is no value. Throws LanguageError for a value that is no number.
+  [[nodiscard]] std::optional<double> numberAt(const NumberSource& source, std::span<const RowId> tuple) const;
   void goTo(std::span<const RowId> tuple) const { rows_.assign(tuple.begin(), tuple.end()); }
 
   const std::vector<SelectTable>& tables_;

@@ -108,15 +108,5 @@ void rowsOfOneUnit(benchmark::State& state) {
 }
 BENCHMARK(rowsOfOneUnit);
 
-void objectsUnderPoint(benchmark::State& state) {
-  const std::shared_ptr<const BaseTable> table = BaseTable::read(zones());
-  for (auto _ : state) {
-    for (const std::uint32_t i : table->objectsIn({345000, 4545000, 345000, 4545000})) {
-      benchmark::DoNotOptimize(contains(*table->objectSet().objects()[i], {345000, 4545000}));
-    }
-  }
-}
-BENCHMARK(objectsUnderPoint);
-
 }  // namespace
 }  // namespace motor
