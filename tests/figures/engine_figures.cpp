@@ -35,14 +35,13 @@ using motor::Point;
 
 void regionOfPoint(benchmark::State& state) {
   const auto table = zones();
+  const motor::ObjectSet& objects = table->objectSet();
   const std::vector<Point> points = somePoints();
   std::size_t next = 0;
   for (auto _ : state) {
     const Point p = points[next++ % points.size()];
     std::size_t found = 0;
-    for (const std::uint32_t i : table->objectsIn({p.x, p.y, p.x, p.y})) {
-      if (table->objectSet().covers(i, p)) ++found;
-    }
+    objects.forObjectsIn({p.x, p.y, p.x, p.y}, [&](std::uint32_t i) { found += objects.covers(i, p) ? 1 : 0; });
     require(found > 0, "a point lies nowhere");
   }
 }

@@ -19,17 +19,16 @@ namespace motor {
 
 namespace {
 
-constexpr double kGap = 2;               // pixels between two labels
-constexpr double kBorderGap = 4;         // pixels between a label and its region's outline, where there is room
-constexpr double kPointGap = 5;          // pixels between a point and its label
-constexpr double kEdge = 3;              // pixels between a label and the picture's edge
-constexpr double kMostShift = 0.3;       // of its width, that a region's label is moved to keep off the edge
-constexpr double kMostRise = 0.6;        // of its height
-constexpr double kCornerGap = 0.7;       // of the gap to a point, for labels at its corners
-constexpr int kLargestSymbol = 240;      // points
-constexpr double kPixelPrecision = 1;    // of a label's place in a region that is seen in part
-constexpr double kShareOfRegion = 0.02;  // precision of a label's place, as a part of the region's size
-constexpr double kWidestLabel = 0.8;     // of the picture's width, of one that must be broken
+constexpr double kGap = 2;             // pixels between two labels
+constexpr double kBorderGap = 4;       // pixels between a label and its region's outline, where there is room
+constexpr double kPointGap = 5;        // pixels between a point and its label
+constexpr double kEdge = 3;            // pixels between a label and the picture's edge
+constexpr double kMostShift = 0.3;     // of its width, that a region's label is moved to keep off the edge
+constexpr double kMostRise = 0.6;      // of its height
+constexpr double kCornerGap = 0.7;     // of the gap to a point, for labels at its corners
+constexpr int kLargestSymbol = 240;    // points
+constexpr double kPixelPrecision = 1;  // of a label's place in a region that is seen in part
+constexpr double kWidestLabel = 0.8;   // of the picture's width, of one that must be broken
 constexpr int kCentre = 0;
 
 // Where the label lies from its anchor by its position number, in halves of its size: 0 CC, 1 TL, 2 TC, 3 TR, 4 CL, 5
@@ -132,29 +131,6 @@ QRectF boxAt(int position, QSizeF size, double gap, bool isPoint) {
 
 }  // namespace
 
-Point LabelPoints::of(const ObjectPtr& region) {
-  Entry& entry = points_[region.get()];
-  if (entry.object.lock() != region) {
-    const MapObject& object = *region;
-    std::vector<QPolygonF> rings;
-    for (std::size_t part = 0; part < object.partCount(); ++part) {
-      QPolygonF ring;
-      for (std::size_t i = object.parts[part]; i < object.partEnd(part); ++i) {
-        ring.append({object.points[i].x, object.points[i].y});
-      }
-      rings.push_back(std::move(ring));
-    }
-    const double size = std::min(object.bounds.maxX - object.bounds.minX, object.bounds.maxY - object.bounds.minY);
-    const QPointF best = labelPoint(rings, size * kShareOfRegion);
-    entry = {region, {best.x(), best.y()}};
-  }
-  return entry.point;
-}
-
-void LabelPoints::dropUnused() {
-  std::erase_if(points_, [](const auto& entry) { return entry.second.object.expired(); });
-}
-
 bool isLabelledAt(const Layer& layer, double zoomMetres) {
   const LabelSettings& label = layer.label;
   const bool isOff = label.visibility == LabelSettings::Visibility::off || (!label.automatic && label.edited.empty());
@@ -163,19 +139,18 @@ bool isLabelledAt(const Layer& layer, double zoomMetres) {
          (zoomMetres >= label.minZoom && zoomMetres <= label.maxZoom);
 }
 
-LabelPainter::LabelPainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, int level, LabelTexts& texts,
-                           LabelPoints& points)
-    : painter_(painter), view_(view), paths_(paths), level_(level), texts_(texts), points_(points) {}
+LabelPainter::LabelPainter(QPainter& painter, const MapView& view, ObjectMemory& objects, int level, LabelTexts& texts)
+    : painter_(painter), view_(view), objects_(objects), level_(level), texts_(texts) {}
 
 bool LabelPainter::isFree(const LabelBox& box) const {
   return std::none_of(taken_.begin(), taken_.end(), [&](const LabelBox& other) { return other.intersects(box); });
 }
 
 QPointF LabelPainter::regionAnchor(const ObjectPtr& region, QSizeF label) {
-  const std::vector<QPolygonF> rings = pixelParts(*region, paths_.of(region, level_), view_);
+  const std::vector<QPolygonF> rings = pixelParts(*region, objects_.paths.of(region, level_), view_);
   const QSizeF room = label.isEmpty() ? label : label + QSizeF(2 * kBorderGap, 0);
   if (view_.rect().contains(view_.toPixels(region->bounds))) {
-    return roomForLabel(rings, view_.toPixel(points_.of(region)), room);
+    return roomForLabel(rings, view_.toPixel(objects_.labelPoints.of(region)), room);
   }
   std::vector<QPolygonF> seen;
   for (const QPolygonF& ring : rings) {
@@ -187,7 +162,7 @@ QPointF LabelPainter::regionAnchor(const ObjectPtr& region, QSizeF label) {
 
 LabelPainter::Anchor LabelPainter::lineAnchor(const ObjectPtr& line, double width) {
   const QRectF room = view_.rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
-  const auto place = linePlace(pixelParts(*line, paths_.of(line, level_), view_), room, width);
+  const auto place = linePlace(pixelParts(*line, objects_.paths.of(line, level_), view_), room, width);
   if (!place) return {{std::numeric_limits<double>::quiet_NaN(), 0}, 0};
   return {place->at, place->degrees};
 }

@@ -2,36 +2,18 @@
 
 #include <QPainter>
 #include <QString>
-#include <memory>
 #include <optional>
 #include <set>
-#include <unordered_map>
 #include <vector>
 
 #include "motor/drawing/halo_text.h"
 #include "motor/drawing/label_box.h"
 #include "motor/drawing/label_texts.h"
 #include "motor/drawing/map_view.h"
-#include "motor/drawing/simplified_paths.h"
+#include "motor/drawing/object_memory.h"
 #include "motor/map/layer.h"
 
 namespace motor {
-
-// The best points for labels, by object, in the map's coordinates: where a region's outline is farthest. They cost too
-// much to be found at every redraw.
-class LabelPoints {
- public:
-  [[nodiscard]] Point of(const ObjectPtr& region);
-  // Forgets the points of objects that are gone.
-  void dropUnused();
-
- private:
-  struct Entry {
-    std::weak_ptr<const MapObject> object;  // tells whether the address is still that object's
-    Point point;
-  };
-  std::unordered_map<const MapObject*, Entry> points_;
-};
 
 // An object that may be labelled, with the row that gives the text.
 struct LabelCandidate {
@@ -52,8 +34,7 @@ struct LabelCandidate {
 // wanted, and only so many as the layer may have. Labels that were put by hand come first and always stand.
 class LabelPainter {
  public:
-  LabelPainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, int level, LabelTexts& texts,
-               LabelPoints& points);
+  LabelPainter(QPainter& painter, const MapView& view, ObjectMemory& objects, int level, LabelTexts& texts);
 
   // No label lies on these places, in pixels, but those that may overlap others.
   void keepOff(const std::vector<QRectF>& places) {
@@ -79,10 +60,9 @@ class LabelPainter {
 
   QPainter& painter_;
   const MapView& view_;
-  SimplifiedPaths& paths_;
+  ObjectMemory& objects_;
   int level_;
   LabelTexts& texts_;
-  LabelPoints& points_;
   std::vector<LabelBox> taken_;
 };
 

@@ -69,7 +69,7 @@ void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double de
   const Box reach = reachOf(view);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, quality == Quality::best);
-  ShapePainter shapes(painter, view, paths_, devicePixelRatio);
+  ShapePainter shapes(painter, view, objects_.paths, devicePixelRatio);
   ThemePainter themes(painter, shapes, map, view, themes_, devicePixelRatio);
   for (std::size_t i = map.layers.size(); i-- > 0;) {
     const Layer& layer = map.layers[i];
@@ -86,15 +86,14 @@ void MapPainter::paint(QPainter& painter, const Map& map, QSizeF size, double de
   if (quality == Quality::best) {
     paintLabels(painter, map, view, shapes.level(), themes);
     themes_.dropUnused();
-    paths_.dropUnused();
-    points_.dropUnused();
+    objects_.dropUnused();
   }
   painter.restore();
 }
 
 void MapPainter::paintLabels(QPainter& painter, const Map& map, const MapView& view, int level, ThemePainter& themes) {
   const Box seen = view.toMap(view.rect());
-  LabelPainter labels(painter, view, paths_, level, texts_, points_);
+  LabelPainter labels(painter, view, objects_, level, texts_);
   labels.keepOff(withoutLabels_);
   for (std::size_t i = 0; i < map.layers.size(); ++i) {
     const Layer& layer = map.layers[i];

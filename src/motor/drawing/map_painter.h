@@ -8,7 +8,7 @@
 
 #include "motor/drawing/label_painter.h"
 #include "motor/drawing/label_texts.h"
-#include "motor/drawing/simplified_paths.h"
+#include "motor/drawing/object_memory.h"
 #include "motor/drawing/theme_painter.h"
 #include "motor/map/map.h"
 
@@ -31,9 +31,8 @@ class MapPainter {
  private:
   void paintLabels(QPainter& painter, const Map& map, const MapView& view, int level, ThemePainter& themes);
 
-  SimplifiedPaths paths_;
+  ObjectMemory& objects_ = ObjectMemory::shared();
   LabelTexts texts_;
-  LabelPoints points_;
   ThemeMemory themes_;
   std::vector<QRectF> withoutLabels_;
 };

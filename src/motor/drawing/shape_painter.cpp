@@ -18,6 +18,7 @@ namespace {
 constexpr double kFarOutside = 2000;  // pixels beyond the picture from which on parts are cut
 constexpr double kCutMargin = 100;    // and how far beyond it they are cut
 constexpr double kLeastBorder = 1;    // device pixels, of a border that hides the seam
+constexpr double kBroad = 8;          // logical pixels of a line, above which the toolkit's painter is as fast
 constexpr double kSeam = 1.5;         // device pixels: the line around a fill that closes the seam to its neighbour
 
 QRectF grown(const QRectF& rect, double by) { return rect.adjusted(-by, -by, by, by); }
@@ -100,10 +101,16 @@ ShapePainter::ShapePainter(QPainter& painter, const MapView& view, SimplifiedPat
       view_(view),
       paths_(paths),
       devicePixelRatio_(devicePixelRatio),
+      canvas_(SmoothCanvas::of(painter)),
       level_(simplificationLevel(view.unitsPerPixel() / devicePixelRatio)),
       strokes_(penStrokes(pen_)),
       fill_(toQBrush(brush_, devicePixelRatio)),
       fillIsClosed_(leavesNoGaps(brush_)) {}
+
+QPainter& ShapePainter::painter() {
+  if (canvas_) canvas_->paint();
+  return painter_;
+}
 
 void ShapePainter::usePen(const Pen& pen) {
   if (pen == pen_) return;
@@ -138,28 +145,29 @@ void ShapePainter::paint(const ObjectPtr& object, const DrawnStyle& style) {
 void ShapePainter::finishLayer() {
   std::size_t most = 0;
   for (const WaitingLines& waiting : waiting_) most = std::max(most, penStrokes(waiting.pen).size());
-  painter_.setBrush(Qt::NoBrush);
+  if (most > 0) painter().setBrush(Qt::NoBrush);
   for (std::size_t i = 0; i < most; ++i) {
     for (const WaitingLines& waiting : waiting_) {
       usePen(waiting.pen);
       if (i >= strokes_.size()) continue;
       for (const QPolygonF& line : waiting.lines) {
-        drawStroke(painter_, strokes_[i], waiting.closed ? line : shaftOf(pen_, line));
+        drawStroke(painter(), strokes_[i], waiting.closed ? line : shaftOf(pen_, line));
       }
     }
   }
   for (const WaitingLines& waiting : waiting_) {
     if (waiting.closed) continue;
-    for (const QPolygonF& line : waiting.lines) paintArrowHeads(painter_, waiting.pen, line);
+    for (const QPolygonF& line : waiting.lines) paintArrowHeads(painter(), waiting.pen, line);
   }
   waiting_.clear();
+  if (canvas_) canvas_->paint();
 }
 
 void ShapePainter::paintPoints(const MapObject& object, const Symbol& symbol) {
   const QRectF reach = grown(view_.rect(), kFarOutside);
   for (const Point& p : object.points) {
     const QPointF at = view_.toPixel(p);
-    if (reach.contains(at)) paintSymbol(painter_, symbol, at);
+    if (reach.contains(at)) paintSymbol(painter(), symbol, at);
   }
 }
 
@@ -167,16 +175,31 @@ void ShapePainter::paintPoints(const MapObject& object, const Symbol& symbol) {
 // which its edge crosses is covered by the line around it.
 QPen ShapePainter::seamPen() const {
   const bool mayGape = fillIsClosed_ && painter_.testRenderHint(QPainter::Antialiasing);
-  return mayGape ? QPen(fill_, kSeam / devicePixelRatio_, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin) : QPen(Qt::NoPen);
+  return mayGape ? QPen(fill_, kSeam / devicePixelRatio_, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin) : QPen(Qt::NoPen);
+}
+
+// Whether the canvas draws a border as the painter does.
+bool ShapePainter::isPlain(const QPen& pen) {
+  return pen.style() == Qt::SolidLine && pen.brush().style() == Qt::SolidPattern && pen.widthF() <= kBroad;
 }
 
 void ShapePainter::paintFill(const std::vector<QPolygonF>& rings, const QPen& outline) {
-  painter_.setBrush(fill_);
-  painter_.setPen(outline);
+  const bool fills = fill_.style() != Qt::NoBrush;
+  const bool borders = outline.style() != Qt::NoPen;
+  if (canvas_ && (!fills || fill_.style() == Qt::SolidPattern) && (!borders || isPlain(outline))) {
+    SmoothCanvas::Style style;
+    if (fills) style.fill = fill_.color().rgba();
+    if (borders) style.border = outline.color().rgba();
+    style.borderWidth = outline.widthF();
+    canvas_->add(rings, style);
+    return;
+  }
+  painter().setBrush(fill_);
+  painter().setPen(outline);
   if (rings.size() == 1) {
-    painter_.drawPolygon(rings.front());
+    painter().drawPolygon(rings.front());
   } else {
-    painter_.drawPath(pathOf(rings));
+    painter().drawPath(pathOf(rings));
   }
 }
 
@@ -194,9 +217,10 @@ void ShapePainter::paintRegion(std::vector<QPolygonF> rings, const DrawnStyle& s
     waiting_.push_back({pen_, std::move(rings), true});
     return;
   }
-  painter_.setBrush(Qt::NoBrush);
-  for (std::size_t i = coversSeam ? 1 : 0; i < strokes_.size(); ++i) {
-    for (const QPolygonF& ring : rings) drawStroke(painter_, strokes_[i], ring);
+  const std::size_t firstStroke = coversSeam ? 1 : 0;
+  if (firstStroke < strokes_.size()) painter().setBrush(Qt::NoBrush);
+  for (std::size_t i = firstStroke; i < strokes_.size(); ++i) {
+    for (const QPolygonF& ring : rings) drawStroke(painter(), strokes_[i], ring);
   }
 }
 
@@ -208,9 +232,9 @@ void ShapePainter::paintLines(std::vector<QPolygonF> lines, const Pen& pen) {
     return;
   }
   for (const QPen& stroke : strokes_) {
-    for (const QPolygonF& line : lines) drawStroke(painter_, stroke, shaftOf(pen, line));
+    for (const QPolygonF& line : lines) drawStroke(painter(), stroke, shaftOf(pen, line));
   }
-  for (const QPolygonF& line : lines) paintArrowHeads(painter_, pen, line);
+  for (const QPolygonF& line : lines) paintArrowHeads(painter(), pen, line);
 }
 
 void ShapePainter::paintText(const MapObject& object, const Font& font) {
@@ -221,11 +245,11 @@ void ShapePainter::paintText(const MapObject& object, const Font& font) {
   const QPointF corner = view_.toPixel(object.points.front());
   if (!grown(view_.rect(), kFarOutside + height).contains(corner)) return;
   const HaloText text(lines, font, height, object.lineSpacing);
-  painter_.save();
-  painter_.translate(corner);
-  painter_.rotate(-turnOf(object.angle));
-  text.paint(painter_, {0, -text.size().height()}, alignmentOf(object.justify));
-  painter_.restore();
+  painter().save();
+  painter().translate(corner);
+  painter().rotate(-turnOf(object.angle));
+  text.paint(painter(), {0, -text.size().height()}, alignmentOf(object.justify));
+  painter().restore();
 }
 
 }  // namespace motor

@@ -2,10 +2,12 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <optional>
 #include <vector>
 
 #include "motor/drawing/map_view.h"
 #include "motor/drawing/simplified_paths.h"
+#include "motor/drawing/smooth_canvas.h"
 #include "motor/language/style_clause.h"
 #include "motor/map/layer.h"
 
@@ -27,13 +29,15 @@ struct DrawnStyle {
                                                 const MapView& view);
 
 // Paints objects of the map's coordinate system one by one. Changing the painter's pens and brushes between two objects
-// is left to it. What has no place in the picture, such as a point that is not a number, is left out.
+// is left to it; the painter's transformation and clipping stay as they were at the start. What has no place in the
+// picture, such as a point that is not a number, is left out.
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const MapView& view, SimplifiedPaths& paths, double devicePixelRatio);
 
   void paint(const ObjectPtr& object, const DrawnStyle& style);
-  // Draws the lines and borders of interleaved pens, which wait for all objects of their layer.
+  // Draws what waits for all objects of their layer: the lines and borders of interleaved pens, and what the canvas
+  // paints at once. To be called before anybody else paints.
   void finishLayer();
   // The zoom level whose shapes are painted.
   [[nodiscard]] int level() const { return level_; }
@@ -52,6 +56,9 @@ class ShapePainter {
   void paintText(const MapObject& object, const Font& font);
   // The pen around a fill that closes the seam to its neighbours.
   [[nodiscard]] QPen seamPen() const;
+  [[nodiscard]] static bool isPlain(const QPen& pen);
+  // The painter, for what the canvas cannot paint; what the canvas has is painted before.
+  [[nodiscard]] QPainter& painter();
   void usePen(const Pen& pen);
   void useBrush(const Brush& brush);
 
@@ -59,6 +66,7 @@ class ShapePainter {
   const MapView& view_;
   SimplifiedPaths& paths_;
   double devicePixelRatio_;
+  std::optional<SmoothCanvas> canvas_;  // for what it can paint
   int level_;
   // The last pen and brush in the toolkit's terms: most objects of a layer share them.
   Pen pen_;

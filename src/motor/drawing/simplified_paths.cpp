@@ -7,29 +7,11 @@ namespace motor {
 
 namespace {
 
-constexpr std::size_t kKeptLevels = 3;
 constexpr int kGridBits = 30;        // grid coordinates stay below two to this power
 constexpr int kNumberBits = 52;      // of a number's mantissa
 constexpr double kFarthest = 1e100;  // units; what lies farther away is no place
 constexpr int kLeastLevel = -500;
 constexpr int kMostLevel = 500;
-
-using GridPoint = SimplifiedShape::GridPoint;
-
-// Whether b lies on the way straight on from a to c.
-bool isStraight(GridPoint a, GridPoint b, GridPoint c) {
-  const std::int64_t ux = std::int64_t{b.x} - a.x;
-  const std::int64_t uy = std::int64_t{b.y} - a.y;
-  const std::int64_t vx = std::int64_t{c.x} - b.x;
-  const std::int64_t vy = std::int64_t{c.y} - b.y;
-  return ux * vy == uy * vx && ux * vx + uy * vy > 0;
-}
-
-void append(std::vector<GridPoint>& points, std::size_t partBegin, GridPoint next) {
-  if (points.size() > partBegin && points.back() == next) return;
-  if (points.size() >= partBegin + 2 && isStraight(points[points.size() - 2], points.back(), next)) points.pop_back();
-  points.push_back(next);
-}
 
 bool isOnEarth(Point p) { return std::fabs(p.x) <= kFarthest && std::fabs(p.y) <= kFarthest; }
 
@@ -52,6 +34,12 @@ int fittingLevel(const Box& bounds, int level) {
   return std::max({level, kLeastLevel, exponentOf(side) + 1 - kGridBits, exponentOf(farthest) - kNumberBits});
 }
 
+// A grid's origin, which only has to be told apart from others near by.
+GridPoint wrapped(double x, double y) {
+  const auto bits = [](double at) { return static_cast<std::int32_t>(static_cast<std::int64_t>(at)); };
+  return {bits(x), bits(y)};
+}
+
 }  // namespace
 
 int simplificationLevel(double unitsPerDevicePixel) {
@@ -66,20 +54,22 @@ SimplifiedShape simplify(const MapObject& object, int level) {
   const double originX = std::floor(bounds.minX / shape.step);
   const double originY = std::floor(bounds.minY / shape.step);
   shape.origin = {originX * shape.step, originY * shape.step};
+  const GridPoint gridOrigin = wrapped(originX, originY);
+  std::vector<GridPoint> points;
   for (std::size_t part = 0; part < object.partCount(); ++part) {
-    const std::size_t begin = shape.points.size();
+    points.clear();
     for (std::size_t i = object.parts[part]; i < object.partEnd(part); ++i) {
       const Point p = object.points[i];
       if (!isOnEarth(p)) continue;
-      append(shape.points, begin,
-             {static_cast<std::int32_t>(std::nearbyint(p.x / shape.step) - originX),
-              static_cast<std::int32_t>(std::nearbyint(p.y / shape.step) - originY)});
+      const GridPoint next{static_cast<std::int32_t>(std::nearbyint(p.x / shape.step) - originX),
+                           static_cast<std::int32_t>(std::nearbyint(p.y / shape.step) - originY)};
+      if (points.empty() || points.back() != next) points.push_back(next);
     }
-    if (shape.points.size() < begin + 2) {
-      shape.points.resize(begin);
-    } else {
-      shape.partEnds.push_back(static_cast<std::uint32_t>(shape.points.size()));
-    }
+    if (points.size() < 2) continue;
+    const bool isRing = object.kind == MapObject::Kind::region && points.front() == points.back();
+    const std::vector<GridPoint> seen = isRing ? thinnedRing(points, gridOrigin) : thinnedLine(points, gridOrigin);
+    shape.points.insert(shape.points.end(), seen.begin(), seen.end());
+    shape.partEnds.push_back(static_cast<std::uint32_t>(shape.points.size()));
   }
   shape.points.shrink_to_fit();
   return shape;
@@ -92,7 +82,7 @@ SimplifiedPaths::Level& SimplifiedPaths::useLevel(int number) {
     levels_.splice(levels_.begin(), levels_, found);
   } else {
     levels_.push_front({number, {}});
-    if (levels_.size() > kKeptLevels) levels_.pop_back();
+    if (levels_.size() > keptLevels_) levels_.pop_back();
   }
   return levels_.front();
 }

@@ -6,19 +6,14 @@
 #include <unordered_map>
 #include <vector>
 
+#include "motor/drawing/thinned_points.h"
 #include "motor/tables/geometry.h"
 
 namespace motor {
 
-// An object's points on the grid of one zoom level, without repeated points and without points on a straight line. The
-// grid is the same for all objects, so that neighbours which share points still share them.
+// An object's points on the grid of one zoom level, without those that nobody sees. The grid is the same for all
+// objects, so that neighbours which share points still share them.
 struct SimplifiedShape {
-  struct GridPoint {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    bool operator==(const GridPoint&) const = default;
-  };
-
   double step = 1;  // map units between grid lines
   Point origin;     // of the grid points, in map units
   std::vector<GridPoint> points;
@@ -38,7 +33,10 @@ struct SimplifiedShape {
 // Keeps the simplified shapes of the zoom levels that were used last.
 class SimplifiedPaths {
  public:
-  // The shape stays until two other levels have been used.
+  // Keeps as many levels, one at least.
+  explicit SimplifiedPaths(std::size_t keptLevels) : keptLevels_(keptLevels) {}
+
+  // The shape stays as long as its level is among those kept.
   [[nodiscard]] const SimplifiedShape& of(const ObjectPtr& object, int level);
   // Forgets the shapes of objects that are gone.
   void dropUnused();
@@ -56,6 +54,7 @@ class SimplifiedPaths {
   };
   Level& useLevel(int number);
 
+  std::size_t keptLevels_;
   std::list<Level> levels_;  // the last used first
   std::size_t made_ = 0;
 };

@@ -67,8 +67,8 @@ TEST(SimplifiedPaths, TakesAnyZoomAndLeavesOutWhatIsNowhere) {
   EXPECT_TRUE(simplify(*small::line({{nan, 0}, {0, nan}}, Pen{}), 0).points.empty());
 }
 
-TEST(SimplifiedPaths, MakesEachShapeOnceALevelAndKeepsThreeLevels) {
-  SimplifiedPaths paths;
+TEST(SimplifiedPaths, MakesEachShapeOnceALevelAndKeepsTheLastLevels) {
+  SimplifiedPaths paths(3);
   const ObjectPtr object = small::line({{0, 0}, {50, 50}}, Pen{});
   for (const int level : {1, 1, 2, 3, 1, 2, 3}) (void)paths.of(object, level);
   EXPECT_EQ(paths.madeCount(), 3U);
@@ -78,7 +78,7 @@ TEST(SimplifiedPaths, MakesEachShapeOnceALevelAndKeepsThreeLevels) {
 }
 
 TEST(SimplifiedPaths, ForgetsObjectsThatAreGone) {
-  SimplifiedPaths paths;
+  SimplifiedPaths paths(1);
   auto object = std::make_shared<MapObject>(*small::line({{0, 0}, {50, 50}}, Pen{}));
   const std::weak_ptr<MapObject> watched = object;
   (void)paths.of(object, 0);

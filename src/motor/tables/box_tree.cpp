@@ -1,27 +1,18 @@
 #include "motor/tables/box_tree.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numeric>
 
 namespace motor {
 namespace {
 
-constexpr std::size_t kFanOut = 8;
-constexpr std::size_t kMostLevels = 11;  // of as many boxes as a 32-bit number counts
-constexpr std::size_t kMostOpen = kMostLevels * kFanOut;
-
 double middleX(const Box& box) { return box.minX + box.maxX; }
 double middleY(const Box& box) { return box.minY + box.maxY; }
 
-// Box::intersects for two that are not empty.
-bool meets(const Box& a, const Box& b) {
-  return (a.minX <= b.maxX) & (b.minX <= a.maxX) & (a.minY <= b.maxY) & (b.minY <= a.maxY);
-}
+}  // namespace
 
-// Orders items so that each run of kFanOut lies close together: strips by x, inside a strip by y.
-void sortIntoTiles(std::vector<std::uint32_t>& items, const std::vector<Box>& boxes) {
+void BoxTree::sortIntoTiles(std::vector<std::uint32_t>& items, const std::vector<Box>& boxes) {
   const auto groups = static_cast<double>((items.size() + kFanOut - 1) / kFanOut);
   const auto strips = static_cast<std::size_t>(std::ceil(std::sqrt(groups)));
   const std::size_t stripSize = std::max(kFanOut, (items.size() + strips - 1) / std::max<std::size_t>(1, strips));
@@ -34,8 +25,6 @@ void sortIntoTiles(std::vector<std::uint32_t>& items, const std::vector<Box>& bo
                      [&](std::uint32_t a, std::uint32_t b) { return middleY(boxes[a]) < middleY(boxes[b]); });
   }
 }
-
-}  // namespace
 
 BoxTree::BoxTree(const std::vector<Box>& boxes) {
   for (std::size_t i = 0; i < boxes.size(); ++i) {
@@ -66,21 +55,7 @@ void BoxTree::packLevel(std::size_t begin, std::size_t end, bool leaves) {
 
 std::vector<std::uint32_t> BoxTree::find(const Box& area) const {
   std::vector<std::uint32_t> found;
-  found.reserve(kFanOut);                     // a point is in few boxes
-  std::array<std::uint32_t, kMostOpen> open;  // nodes that meet the area, to be looked into
-  std::size_t count = 0;
-  if (nodes_.empty() || !nodes_.back().box.intersects(area)) return found;
-  open[count++] = static_cast<std::uint32_t>(nodes_.size() - 1);
-  while (count > 0) {
-    const Node& node = nodes_[open[--count]];
-    for (std::uint32_t i = node.first; i < node.first + node.count; ++i) {
-      if (node.leaf) {
-        if (meets(boxes_[i], area)) found.push_back(items_[i]);
-      } else if (meets(nodes_[i].box, area)) {
-        open[count++] = i;
-      }
-    }
-  }
+  visit(area, [&found](std::uint32_t item) { found.push_back(item); });
   std::sort(found.begin(), found.end());
   return found;
 }

@@ -63,22 +63,21 @@ std::span<const RowId> ObjectSet::rowsOf(std::uint32_t index) const {
   return {rows_.data() + begin, rowEnds_[index] - begin};
 }
 
-std::vector<std::uint32_t> ObjectSet::objectsIn(const Box& area) const {
-  if (!tree_) {
-    std::vector<Box> boxes;
-    boxes.reserve(objects_.size());
-    for (const ObjectPtr& object : objects_) boxes.push_back(object->bounds);
-    tree_.emplace(boxes);
-  }
-  return tree_->find(area);
+const BoxTree& ObjectSet::grownTree() const {
+  std::vector<Box> boxes;
+  boxes.reserve(objects_.size());
+  for (const ObjectPtr& object : objects_) boxes.push_back(object->bounds);
+  return tree_.emplace(boxes);
 }
 
 bool ObjectSet::covers(std::uint32_t index, Point p) const {
-  const MapObject& object = *objects_[index];
-  if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
   if (regions_.empty()) regions_.resize(objects_.size());
   std::shared_ptr<const RegionIndex>& region = regions_[index];
-  if (region == nullptr) region = std::make_shared<const RegionIndex>(object);
+  if (region == nullptr) {
+    const MapObject& object = *objects_[index];
+    if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
+    region = std::make_shared<const RegionIndex>(object);
+  }
   return region->contains(p);
 }
 

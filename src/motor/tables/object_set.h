@@ -36,11 +36,18 @@ class ObjectSet {
   // The box around all objects.
   [[nodiscard]] const Box& bounds() const { return bounds_; }
   // The objects whose bounds meet `area`, ascending.
-  [[nodiscard]] std::vector<std::uint32_t> objectsIn(const Box& area) const;
+  [[nodiscard]] std::vector<std::uint32_t> objectsIn(const Box& area) const { return tree().find(area); }
+  // Calls `visit` with each of them, in any order.
+  template <typename Visit>
+  void forObjectsIn(const Box& area, const Visit& visit) const {
+    tree().visit(area, visit);
+  }
   // Whether a region covers a point, as contains() has it; false for other objects. For one that is asked often.
   [[nodiscard]] bool covers(std::uint32_t index, Point p) const;
 
  private:
+  [[nodiscard]] const BoxTree& tree() const { return tree_ ? *tree_ : grownTree(); }
+  const BoxTree& grownTree() const;
   void groupRows();
   void addUpBounds();
 

@@ -128,11 +128,11 @@ class Planner {
 
   std::vector<RowId> rowsRelated(SpatialRelation relation, const MapObject& other, const ObjectSet& set) const {
     std::vector<RowId> rows;
-    for (const std::uint32_t index : set.objectsIn(other.bounds)) {
-      if (!related(relation, *set.objects()[index], other)) continue;
+    set.forObjectsIn(other.bounds, [&](std::uint32_t index) {
+      if (!related(relation, *set.objects()[index], other)) return;
       const auto shared = set.rowsOf(index);
       rows.insert(rows.end(), shared.begin(), shared.end());
-    }
+    });
     std::erase_if(rows, [this](RowId row) { return source_.table->isDeleted(row); });
     std::sort(rows.begin(), rows.end());
     return rows;

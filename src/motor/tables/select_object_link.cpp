@@ -67,12 +67,12 @@ std::vector<RowId> ObjectLink::findRows(const MapObject& other) const {
   const ObjectPtr image = toTable_ ? transformed(other, *toTable_) : nullptr;
   const MapObject& here = image ? *image : other;
   std::vector<RowId> rows;
-  for (const std::uint32_t index : objects_->objectsIn(here.bounds)) {
-    if (!related(relation_, *objects_->objects()[index], here)) continue;
+  objects_->forObjectsIn(here.bounds, [&](std::uint32_t index) {
+    if (!related(relation_, *objects_->objects()[index], here)) return;
     for (const RowId row : objects_->rowsOf(index)) {
       if (counts_[row - 1]) rows.push_back(row);
     }
-  }
+  });
   std::sort(rows.begin(), rows.end());
   return rows;
 }

@@ -32,7 +32,6 @@ bool HoverLight::pointTo(const MapWindow& window, QPointF at) {
     if (!name.isEmpty() && !names.contains(name) && names.size() < kMostNames) names.append(name);
   }
   const bool isCalledOtherwise = std::exchange(names_, names) != names_;
-  if (isOther) outlines_.dropUnused();
   return isOther || isCalledOtherwise || (hasMoved && !names_.isEmpty());
 }
 
@@ -43,7 +42,7 @@ bool HoverLight::clear() {
 
 void HoverLight::paintOutline(QPainter& painter, const MapView& view, double devicePixelRatio) {
   if (!object_) return;
-  const QPainterPath path = outlines_.of(object_, view, devicePixelRatio);
+  const QPainterPath path = outlineOf(object_, view, devicePixelRatio);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (object_->kind != MapObject::Kind::polyline) painter.fillPath(path, kLight);

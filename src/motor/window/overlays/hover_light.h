@@ -24,7 +24,6 @@ class HoverLight {
   void paintNames(QPainter& painter, const MapView& view) const;
 
  private:
-  ObjectOutlines outlines_;
   LabelTexts texts_;
   QPointF at_;
   ObjectPtr object_;  // in the map's coordinates

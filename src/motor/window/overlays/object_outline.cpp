@@ -1,10 +1,11 @@
 #include "motor/window/overlays/object_outline.h"
 
+#include "motor/drawing/object_memory.h"
 #include "motor/drawing/shape_painter.h"
 
 namespace motor {
 
-QPainterPath ObjectOutlines::of(const ObjectPtr& object, const MapView& view, double devicePixelRatio) {
+QPainterPath outlineOf(const ObjectPtr& object, const MapView& view, double devicePixelRatio) {
   constexpr double kPointRing = 9;
   QPainterPath path;
   path.setFillRule(Qt::OddEvenFill);
@@ -18,7 +19,8 @@ QPainterPath ObjectOutlines::of(const ObjectPtr& object, const MapView& view, do
     case MapObject::Kind::polyline:
     case MapObject::Kind::region: {
       const int level = simplificationLevel(view.unitsPerPixel() / devicePixelRatio);
-      for (const QPolygonF& part : pixelParts(*object, paths_.of(object, level), view)) path.addPolygon(part);
+      for (const QPolygonF& part : pixelParts(*object, ObjectMemory::shared().paths.of(object, level), view))
+        path.addPolygon(part);
       break;
     }
   }

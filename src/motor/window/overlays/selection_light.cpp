@@ -53,7 +53,6 @@ bool SelectionLight::findObjects(const MapWindow& window) {
   const std::vector<ObjectPtr> before = std::exchange(objects_, {});
   selection_ = selection;
   revision_ = window.revision();
-  outlines_.dropUnused();
   if (!selection_ || !shows(window.map(), selection_->base().table)) return !before.empty();
   const auto set = projectedObjects(selection_->base().table, window.map().coordinateSystem);
   std::vector<bool> isSelected(set->objects().size(), false);
@@ -71,7 +70,7 @@ std::vector<QPainterPath> SelectionLight::outlines(const MapView& view, double d
   const Box seen = reachOf(view);
   std::vector<QPainterPath> paths;
   for (const ObjectPtr& object : objects_) {
-    if (object->bounds.intersects(seen)) paths.push_back(outlines_.of(object, view, devicePixelRatio));
+    if (object->bounds.intersects(seen)) paths.push_back(outlineOf(object, view, devicePixelRatio));
   }
   return paths;
 }

@@ -24,7 +24,6 @@ class SelectionLight {
   bool findObjects(const MapWindow& window);
   [[nodiscard]] std::vector<QPainterPath> outlines(const MapView& view, double devicePixelRatio);
 
-  ObjectOutlines outlines_;
   std::shared_ptr<const ResultTable> selection_;
   std::uint64_t revision_ = 0;
   std::vector<ObjectPtr> objects_;

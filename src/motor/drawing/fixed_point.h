@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+namespace motor {
+
+// Coordinates of pixels as whole numbers, in steps of which a pixel has kOne.
+using Fixed = std::int64_t;
+inline constexpr int kFixedBits = 16;
+inline constexpr Fixed kOne = Fixed{1} << kFixedBits;
+
+// The nearest step below a number. What is farther than any picture reaches is to be cut off before.
+[[nodiscard]] inline Fixed toFixed(double pixels) { return static_cast<Fixed>(pixels * static_cast<double>(kOne)); }
+// The pixel that a coordinate lies in, rounded down.
+[[nodiscard]] constexpr int wholePixels(Fixed at) { return static_cast<int>(at >> kFixedBits); }
+[[nodiscard]] constexpr Fixed product(Fixed a, Fixed b) { return (a * b) >> kFixedBits; }
+
+// A part of one as a part of 255.
+[[nodiscard]] constexpr unsigned toCover(Fixed share) {
+  return static_cast<unsigned>((share * 255 + kOne / 2) >> kFixedBits);
+}
+
+}  // namespace motor

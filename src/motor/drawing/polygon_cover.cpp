@@ -1,0 +1,98 @@
+#include "motor/drawing/polygon_cover.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace motor {
+
+namespace {
+
+constexpr double kFarthest = 1e7;  // pixels to the left or right; what is farther counts as being there
+
+struct Row {
+  std::int32_t* changes;
+  std::uint8_t* marks;
+  Fixed width;
+};
+
+// A piece of an edge that lies in one column of a row: `height` rows high with its direction's sign, `middle` of the
+// column to the right on the mean.
+inline void passPixel(const Row& row, int column, Fixed middle, Fixed height) {
+  const auto right = static_cast<std::int32_t>(product(height, middle));
+  row.changes[column] += static_cast<std::int32_t>(height) - right;
+  row.changes[column + 1] += right;
+  row.marks[column] = 1;
+  row.marks[column + 1] = 1;
+}
+
+// A piece that lies in one row, `rise` rows high for each column, without a sign. What lies left of the row counts in
+// its first column, what lies right of it nowhere.
+inline void passRow(const Row& row, Fixed xBegin, Fixed xEnd, Fixed height, Fixed rise) {
+  Fixed from = std::min(xBegin, xEnd);
+  Fixed to = std::max(xBegin, xEnd);
+  if (from >= row.width) return;
+  if (to <= 0) return passPixel(row, 0, 0, height);
+  int column = wholePixels(from);
+  if (from >= 0 && to <= (column + 1) * kOne) return passPixel(row, column, (from + to) / 2 - column * kOne, height);
+  Fixed left = height;  // of the height, for the columns that follow
+  const Fixed step = height < 0 ? -rise : rise;
+  if (from < 0) {
+    const Fixed outside = product(-from, step);
+    passPixel(row, 0, 0, outside);
+    left -= outside;
+    from = 0;
+    column = 0;
+  }
+  if (to > row.width) {
+    left -= product(to - row.width, step);
+    to = row.width;
+  }
+  for (; (column + 1) * kOne < to; ++column) {
+    const Fixed width = (column + 1) * kOne - from;
+    const Fixed part = product(width, step);
+    passPixel(row, column, kOne - width / 2, part);
+    left -= part;
+    from = (column + 1) * kOne;
+  }
+  passPixel(row, column, (from + to) / 2 - column * kOne, left);
+}
+
+}  // namespace
+
+void PolygonCover::begin(const QRect& area) {
+  area_ = area;
+  rowPixels_ = wholeGroups(static_cast<std::size_t>(area.width()) + 1);
+  const std::size_t pixels = static_cast<std::size_t>(area.height()) * rowPixels_;
+  if (changes_.size() < pixels) {
+    changes_.resize(pixels, 0);
+    marks_.resize(pixels, 0);
+  }
+}
+
+void PolygonCover::addEdge(QPointF from, QPointF to) {
+  const bool isDown = from.y() < to.y();
+  const QPointF upper = (isDown ? from : to) - area_.topLeft();
+  const QPointF lower = (isDown ? to : from) - area_.topLeft();
+  const Fixed begin = toFixed(std::clamp<double>(upper.y(), 0, area_.height()));
+  const Fixed end = toFixed(std::clamp<double>(lower.y(), 0, area_.height()));
+  if (begin >= end) return;
+  const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
+  const double first = upper.x() + (static_cast<double>(begin) / static_cast<double>(kOne) - upper.y()) * slope;
+  const Fixed perRow = toFixed(std::clamp(slope, -kFarthest, kFarthest));
+  const Fixed rise = toFixed(std::min(1 / std::fabs(slope), kFarthest));
+  Fixed x = toFixed(std::clamp(first, -kFarthest, kFarthest));
+  const std::size_t firstPixel = static_cast<std::size_t>(wholePixels(begin)) * rowPixels_;
+  Row row{changes_.data() + firstPixel, marks_.data() + firstPixel, area_.width() * kOne};
+  for (Fixed y = begin; y < end;) {
+    const Fixed nextY = std::min(end, (wholePixels(y) + 1) * kOne);
+    const Fixed height = nextY - y;
+    const Fixed nextX = x + product(height, perRow);
+    passRow(row, x, nextX, isDown ? height : -height, rise);
+    y = nextY;
+    x = nextX;
+    row.changes += rowPixels_;
+    row.marks += rowPixels_;
+  }
+}
+
+}  // namespace motor
