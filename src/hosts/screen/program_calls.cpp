@@ -4,9 +4,22 @@
 #include <utility>
 
 #include "platform/programs.h"
-#include "text/failure.h"
 
 namespace screen {
+namespace {
+
+// What the exception that is being handled says to the user.
+std::string caughtWords() {
+  try {
+    throw;
+  } catch (const std::exception& fault) {  // a Failure among them
+    return fault.what();
+  } catch (...) {
+    return "Error desconocido.";
+  }
+}
+
+}  // namespace
 
 void ProgramCalls::run(const Action& action) {
   if (ended_) return;
@@ -16,10 +29,8 @@ void ProgramCalls::run(const Action& action) {
     action();
   } catch (const platform::ProgramEnd&) {
     ended_ = true;
-  } catch (const Failure& failure) {
-    tell(failure.description());
-  } catch (const std::exception& fault) {
-    tell(fault.what());
+  } catch (...) {
+    tell(caughtWords());
   }
   --depth_;
   if (depth_ > 0) return;
@@ -32,8 +43,22 @@ void ProgramCalls::run(const Action& action) {
   for (const Action& next : std::exchange(waiting_, {})) run(next);
 }
 
-void ProgramCalls::tell(const std::string& fault) const {
-  if (failed) failed(fault);
+void ProgramCalls::tell(const std::string& fault) const noexcept {
+  try {
+    if (failed) failed(fault);
+  } catch (...) {
+    // There is nobody left to tell.
+  }
+}
+
+// A call of its own: nothing else enters the program while the user reads.
+void ProgramCalls::tellCaught() noexcept {
+  try {
+    const std::string words = caughtWords();
+    if (toldOnce_.insert(words).second) run([&] { tell(words); });
+  } catch (...) {
+    // Its words cannot even be kept.
+  }
 }
 
 void ProgramCalls::runWhenFree(Action action) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,16 +27,29 @@ class ProgramCalls {
   // ticks.
   void runWhenFree(Action action);
 
+  // Does what a host has to do for itself, outside any call. A failure in it is told as one of a handler's is, but the
+  // same words once only: what cannot be painted would say so again and again. Lets nothing out.
+  template <class Own>
+  void guard(const Own& own) noexcept {
+    try {
+      own();
+    } catch (...) {
+      tellCaught();
+    }
+  }
+
   // Whether a call is under way (a message box may be open inside it).
   [[nodiscard]] bool isBusy() const { return depth_ > 0; }
   [[nodiscard]] bool hasEnded() const { return ended_; }
 
  private:
-  void tell(const std::string& fault) const;
+  void tell(const std::string& fault) const noexcept;
+  void tellCaught() noexcept;
 
   int depth_ = 0;
   bool ended_ = false;
   std::vector<Action> waiting_;
+  std::set<std::string> toldOnce_;
 };
 
 }  // namespace screen

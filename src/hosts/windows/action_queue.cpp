@@ -38,14 +38,14 @@ void ActionQueue::runNext() {
   if (actions_.empty() || calls_.isBusy()) return;
   const Action next = std::move(actions_.front());
   actions_.pop_front();
-  next();
   wake();  // one message for all that wait would leave the others behind
+  next();
 }
 
 LRESULT ActionQueue::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {
   auto* queue = ownerOf<ActionQueue>(window);
   if (queue == nullptr || message != kRunNext) return DefWindowProcW(window, message, wide, large);
-  queue->runNext();
+  queue->calls_.guard([queue] { queue->runNext(); });
   return 0;
 }
 

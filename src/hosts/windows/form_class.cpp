@@ -1,6 +1,7 @@
 #include "hosts/windows/form_class.h"
 
 #include "hosts/windows/resources/resource_ids.h"
+#include "hosts/windows/win32/window_class.h"
 
 namespace windows {
 
@@ -17,21 +18,8 @@ FormStyle formStyle(screen::FormLook look) {
 }
 
 const wchar_t* formClass(WNDPROC receive) {
-  static constexpr const wchar_t* kName = L"VeldoriaForm";
-  static const ATOM registered = [receive] {
-    const HINSTANCE program = GetModuleHandleW(nullptr);
-    WNDCLASSEXW form{};
-    form.cbSize = sizeof form;
-    form.style = CS_DBLCLKS;
-    form.lpfnWndProc = receive;
-    form.hInstance = program;
-    form.hIcon = LoadIconW(program, MAKEINTRESOURCEW(kProgramIcon));
-    form.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    form.lpszClassName = kName;
-    return RegisterClassExW(&form);
-  }();
-  static_cast<void>(registered);
-  return kName;
+  const HICON icon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kProgramIcon));
+  return registered({.name = L"VeldoriaForm", .receive = receive, .style = CS_DBLCLKS, .icon = icon});
 }
 
 void roundCorners(HWND window, const Scale& scale) {

@@ -1,14 +1,18 @@
 #include "hosts/windows/form_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "hosts/screen/palette.h"
 #include "hosts/screen/pop_up_frames.h"
+#include "hosts/windows/drawing/painting.h"
 #include "hosts/windows/form_class.h"
 #include "hosts/windows/keyboard_order.h"
 #include "hosts/windows/pop_up_watch.h"
+#include "hosts/windows/views/combo_view.h"
 #include "hosts/windows/views/image_view.h"
 #include "hosts/windows/views/measures.h"
+#include "hosts/windows/views/picture_box_view.h"
 #include "hosts/windows/views/tab_control_view.h"
 #include "hosts/windows/views/timer_view.h"
 #include "hosts/windows/views/view_factory.h"
@@ -21,6 +25,8 @@ namespace {
 
 constexpr UINT_PTR kPopUpClock = 1;
 constexpr UINT kPopUpInterval = 120;  // milliseconds between looks at the pointer
+constexpr UINT_PTR kInputClock = 2;
+constexpr UINT kInputInterval = 500;  // between looks for the engine while the window takes no input
 
 }  // namespace
 
@@ -29,22 +35,26 @@ FormWindow::FormWindow(forms::Form& form, screen::ProgramCalls& calls, ActionQue
   makeWindow(owner);
   context_.form = handle();
   context_.scale = roomOf(handle()).scale;
+  // Owned by none, so that it can be in front of any other window.
   toolTips_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0,
-                                  0, 0, 0, handle(), nullptr, GetModuleHandleW(nullptr), nullptr));
+                                  0, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
   context_.toolTips = toolTips_.get();
   makeViews();
 }
 
+// What lies in a control goes before it.
 FormWindow::~FormWindow() {
-  views_.clear();
+  while (!views_.empty()) views_.pop_back();
   SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
 }
 
+// A palette begins on its owner's monitor, and so with its resolution.
 void FormWindow::makeWindow(HWND owner) {
   const FormStyle style = formStyle(look_);
-  window_.reset(CreateWindowExW(style.extended, formClass(receive), wide(form_.caption()).c_str(), style.basic, 0, 0, 0,
-                                0, look_ == screen::FormLook::palette ? owner : nullptr, nullptr,
-                                GetModuleHandleW(nullptr), this));
+  const RECT place = owner == nullptr ? RECT{} : roomOf(owner).area;
+  window_.reset(CreateWindowExW(style.extended, formClass(receive), wide(form_.caption()).c_str(), style.basic,
+                                place.left, place.top, 0, 0, look_ == screen::FormLook::palette ? owner : nullptr,
+                                nullptr, GetModuleHandleW(nullptr), this));
 }
 
 void FormWindow::makeViews() {
@@ -99,7 +109,8 @@ void FormWindow::hide() { ShowWindow(handle(), SW_HIDE); }
 
 void FormWindow::leave() {
   ShowWindow(handle(), SW_HIDE);
-  KillTimer(handle(), kPopUpClock);
+  for (const UINT_PTR clock : {kPopUpClock, kInputClock}) KillTimer(handle(), clock);
+  WinHelpW(handle(), nullptr, HELP_QUIT, 0);  // the help viewer that it may have opened closes
   SetWindowTextW(handle(), L"");
   SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
 }
@@ -178,10 +189,20 @@ void FormWindow::watchPopUps() {
 
 void FormWindow::elapsed(UINT_PTR clock) {
   if (clock == kPopUpClock) return watchPopUps();
+  if (clock == kInputClock) return takeInputWithoutEngine();
   for (const auto& view : views_) {
     const auto* timer = dynamic_cast<const TimerView*>(view.get());
     if (timer != nullptr && timer->elapsed(clock)) return;
   }
+}
+
+// Outside calls nobody but the engine disables the window, for a box of its own. Where its map is gone, so are the
+// engine and its box.
+void FormWindow::takeInputWithoutEngine() {
+  const auto isMapPlace = [](const auto& view) { return dynamic_cast<const PictureBoxView*>(view.get()) != nullptr; };
+  const auto place = std::ranges::find_if(views_, isMapPlace);
+  if (place == views_.end() || context_.calls.isBusy()) return;
+  if (GetWindow((*place)->window(), GW_CHILD) == nullptr) EnableWindow(handle(), TRUE);
 }
 
 // Windows gives back the keyboard to the window; the window gives it back to the control that had it.
@@ -228,6 +249,15 @@ bool FormWindow::turnPage(bool next) {
   return true;
 }
 
+// Whether the keyboard is in an open drop-down list, which Escape closes.
+bool FormWindow::listIsOpen(HWND at) const {
+  for (; at != nullptr && at != handle(); at = GetParent(at)) {
+    const auto* combo = dynamic_cast<const ComboView*>(ControlView::of(at));
+    if (combo != nullptr) return combo->isOpen();
+  }
+  return false;
+}
+
 bool FormWindow::takeMessage(const MSG& message) {
   if (message.message == WM_LBUTTONDOWN) context_.keyboardUsed = false;
   if (message.message != WM_KEYDOWN) return false;
@@ -247,6 +277,7 @@ bool FormWindow::takeMessage(const MSG& message) {
       return true;
     }
     case VK_ESCAPE:
+      if (listIsOpen(message.hwnd)) return false;
       if (look_ == screen::FormLook::palette) {
         close();
         return true;
@@ -261,17 +292,15 @@ bool FormWindow::takeMessage(const MSG& message) {
 // --- messages ---
 
 void FormWindow::paint() {
-  PAINTSTRUCT painting;
-  const HDC device = BeginPaint(handle(), &painting);
+  const Painting painting(handle());
   RECT box{};
   GetClientRect(handle(), &box);
-  drawBuffered(device, box, context_.scale, [&](Canvas& canvas) {
+  drawBuffered(painting.device(), box, context_.scale, [&](Canvas& canvas) {
     canvas.fill(box, look_ == screen::FormLook::splash ? screen::palette::kNavyDeep : screen::palette::kPaper);
     for (const auto& view : views_) {
       if (view->window() == nullptr) view->paintOnForm(canvas);
     }
   });
-  EndPaint(handle(), &painting);
 }
 
 LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM large) {
@@ -284,6 +313,13 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM large) {
       return TRUE;
     case WM_CLOSE:
       close();
+      return 0;
+    case WM_ENABLE:
+      KillTimer(handle(), kInputClock);
+      if (wide == FALSE) SetTimer(handle(), kInputClock, kInputInterval, nullptr);
+      break;
+    case WM_ENDSESSION:
+      if (wide != FALSE && sessionEnds) sessionEnds();
       return 0;
     case WM_SIZE:
       resized(wide);
@@ -312,9 +348,8 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM large) {
       activated(LOWORD(wide) != WA_INACTIVE && HIWORD(wide) == 0);
       return 0;
     case WM_SETCURSOR:
-      if (!context_.calls.isBusy() || LOWORD(large) != HTCLIENT) break;
-      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-      return TRUE;
+      if (showsWaiting(context_, large)) return TRUE;
+      break;
     default:
       break;
   }
@@ -329,7 +364,9 @@ LRESULT FormWindow::receive(HWND window, UINT message, WPARAM wide, LPARAM large
   }
   auto* form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (form == nullptr || form->handle() != window) return DefWindowProcW(window, message, wide, large);
-  return form->handle(message, wide, large);
+  LRESULT answer = 0;
+  form->context_.calls.guard([&] { answer = form->handle(message, wide, large); });
+  return answer;
 }
 
 }  // namespace windows

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -21,6 +22,9 @@ class FormWindow : public screen::FormDisplay {
   ~FormWindow() override;
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
+
+  // The user's session with the system ends, and the program with it.
+  std::function<void()> sessionEnds;
 
   [[nodiscard]] HWND handle() const { return window_.get(); }
   [[nodiscard]] ControlView* viewOf(const forms::Control& control) const override;
@@ -55,6 +59,7 @@ class FormWindow : public screen::FormDisplay {
   void visibilityWritten(const forms::Control& control);
   void watchPopUps();
   void elapsed(UINT_PTR clock);
+  void takeInputWithoutEngine();
   void resized(WPARAM how);
   void reportSize();
   void reportPlace();
@@ -64,6 +69,7 @@ class FormWindow : public screen::FormDisplay {
   void activated(bool active);
   void focusFirst();
   [[nodiscard]] bool turnPage(bool next);
+  [[nodiscard]] bool listIsOpen(HWND at) const;
   [[nodiscard]] SIZE frameSize() const;
   [[nodiscard]] RECT paletteControls() const;
 

@@ -1,7 +1,8 @@
 #include "hosts/windows/keyboard_order.h"
 
 #include <algorithm>
-#include <string_view>
+
+#include "hosts/windows/win32/window_class.h"
 
 namespace windows {
 namespace {
@@ -14,9 +15,7 @@ RECT rectOf(HWND window) {
 
 bool isOption(HWND window) {
   const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
-  wchar_t name[16]{};
-  GetClassNameW(window, name, 16);
-  return std::wstring_view(name) == WC_BUTTONW && (style & BS_TYPEMASK) == BS_RADIOBUTTON;
+  return isOfClass(window, WC_BUTTONW) && (style & BS_TYPEMASK) == BS_RADIOBUTTON;
 }
 
 bool isChosen(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == BST_CHECKED; }

@@ -4,7 +4,8 @@
 
 namespace windows {
 
-ModalTime::ModalTime(const WindowsHost& host) : owner_(host.frontWindow()) {
+ModalTime::ModalTime(const WindowsHost& host) : windows_(host.waitingWindows()), owner_(host.frontWindow()) {
+  windows_.boxOpened();
   for (const FormWindow* window : host.windows()) {
     const HWND handle = window->handle();
     if (handle == owner_ || IsWindowEnabled(handle) == FALSE) continue;
@@ -15,6 +16,7 @@ ModalTime::ModalTime(const WindowsHost& host) : owner_(host.frontWindow()) {
 
 ModalTime::~ModalTime() {
   for (const HWND window : disabled_) EnableWindow(window, TRUE);
+  windows_.boxClosed();
 }
 
 }  // namespace windows

@@ -6,6 +6,7 @@
 
 namespace windows {
 
+class WaitingWindows;
 class WindowsHost;
 
 // The time of a modal box: the program's windows other than the one that the box lies in front of take no input.
@@ -20,6 +21,7 @@ class ModalTime {
   [[nodiscard]] HWND owner() const { return owner_; }
 
  private:
+  WaitingWindows& windows_;
   HWND owner_;
   std::vector<HWND> disabled_;
 };

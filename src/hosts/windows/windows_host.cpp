@@ -13,11 +13,13 @@ WindowsHost::WindowsHost(screen::ProgramCalls& calls) : DisplayListener(calls), 
   const INITCOMMONCONTROLSEX controls{sizeof controls, kClasses};
   InitCommonControlsEx(&controls);
   DisableProcessWindowsGhosting();  // wait notices stay to be seen
+  calls.began = [this] { beforeCall(); };
   calls.returned = [this] { afterCall(); };
 }
 
 WindowsHost::~WindowsHost() {
   closeAll();
+  calls().began = nullptr;
   calls().returned = nullptr;
 }
 
@@ -71,7 +73,9 @@ void WindowsHost::closeAll() {
 bool WindowsHost::takeMessage(const MSG& message) const {
   for (const auto& [form, window] : windows_) {
     const HWND handle = window->handle();
-    if (message.hwnd == handle || IsChild(handle, message.hwnd) != FALSE) return window->takeMessage(message);
+    if (message.hwnd == handle || IsChild(handle, message.hwnd) != FALSE) {
+      return work_.covers(message) || window->takeMessage(message);
+    }
   }
   return false;
 }
@@ -80,6 +84,7 @@ void WindowsHost::formLoaded(forms::Form& form) {
   const FormWindow* working = workingWindow();
   auto window = std::make_unique<FormWindow>(form, calls(), queue_, working == nullptr ? nullptr : working->handle());
   FormWindow& made = *window;
+  made.sessionEnds = [this] { endSession(); };
   windows_[&form] = std::move(window);
   const bool isWorking = screen::lookOf(form) == screen::FormLook::window;
   made.placeFirst(isWorking ? firstSize_ : std::nullopt);
@@ -122,8 +127,25 @@ std::string WindowsHost::locationName(const forms::WebBrowser& browser) {
   return view == nullptr ? "" : view->locationName();
 }
 
+// As if the user had closed the program, but at once: the system waits for the answer to its message only. A call under
+// way is left to the system.
+void WindowsHost::endSession() {
+  sessionEnds_ = true;
+  const FormWindow* window = workingWindow();
+  if (window == nullptr && !windows_.empty()) window = windows_.begin()->second.get();
+  if (window == nullptr || calls().isBusy()) return;
+  forms::Form& form = window->form();
+  calls().run([&form] { form.userClose(); });
+}
+
+void WindowsHost::beforeCall() {
+  work_.begin(GetTickCount());
+  if (callBegan) callBegan();
+}
+
 // The program is over when its last form is gone.
 void WindowsHost::afterCall() {
+  work_.end(GetTickCount());
   for (const auto& [form, window] : windows_) window->afterCall();
   const HCURSOR waiting = LoadCursorW(nullptr, IDC_WAIT);
   if (GetCursor() == waiting) SetCursor(LoadCursorW(nullptr, IDC_ARROW));

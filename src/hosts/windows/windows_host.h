@@ -9,6 +9,8 @@
 #include "hosts/screen/display_listener.h"
 #include "hosts/windows/action_queue.h"
 #include "hosts/windows/form_window.h"
+#include "hosts/windows/long_work.h"
+#include "hosts/windows/waiting_windows.h"
 
 namespace windows {
 
@@ -33,12 +35,19 @@ class WindowsHost : public screen::DisplayListener {
   [[nodiscard]] HWND handleOf(const forms::Control& control) const;
   // The window that messages and dialogs lie in front of, or null.
   [[nodiscard]] HWND frontWindow() const;
+  // What the engine that the program waits for may do to its windows.
+  [[nodiscard]] WaitingWindows& waitingWindows() const { return *waitingWindows_; }
+  // Whether the user's session with the system is ending: nobody is there to answer questions any more.
+  [[nodiscard]] bool sessionEnds() const { return sessionEnds_; }
+  // A call into the program begins.
+  screen::ProgramCalls::Action callBegan;
+
   // All windows of forms that are loaded.
   [[nodiscard]] std::vector<FormWindow*> windows() const;
   // Closes all windows at once, without a word to the program.
   void closeAll();
   // Lets the window that a message is for hear of it before its control does: keys that turn pages, the tab key,
-  // Escape. True when nobody else is to hear of it.
+  // Escape. True when nobody else is to hear of it, also of clicks and keys made while the program did not answer.
   [[nodiscard]] bool takeMessage(const MSG& message) const;
 
   void formLoaded(forms::Form& form) override;
@@ -52,9 +61,14 @@ class WindowsHost : public screen::DisplayListener {
  private:
   [[nodiscard]] FormWindow* displayOf(const forms::Form& form) const override { return windowOf(form); }
   [[nodiscard]] const FormWindow* workingWindow() const;
+  void beforeCall();
   void afterCall();
+  void endSession();
 
   ActionQueue queue_;
+  std::unique_ptr<WaitingWindows> waitingWindows_ = std::make_unique<WaitingWindows>(*this);
+  LongWork work_;
+  bool sessionEnds_ = false;
   std::optional<SIZE> firstSize_;
   std::map<const forms::Form*, std::unique_ptr<FormWindow>> windows_;  // of forms that are loaded
   std::vector<std::unique_ptr<FormWindow>> leaving_;  // of forms that were unloaded while their own messages ran

@@ -10,6 +10,7 @@
 #include "hosts/windows/ports/native_registry.h"
 #include "hosts/windows/ports/native_windows.h"
 #include "hosts/windows/ports/ole_engines.h"
+#include "hosts/windows/ports/waited_engines.h"
 #include "platform/ports.h"
 
 namespace windows {
@@ -24,6 +25,7 @@ class WindowsPorts {
 
  private:
   OleEngines oleEngines_;
+  WaitedEngines waitedEngines_;
   screen::AnsweredEngines engines_;
   NativeWindows windows_;
   NativeRegistry registry_;

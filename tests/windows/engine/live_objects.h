@@ -5,9 +5,11 @@ namespace testengine {
 // How many objects of the test engine others hold in this process.
 [[nodiscard]] long liveObjects();
 
-// The place of this process's next handle; handles are given the lowest place that is free, so it rises as they are
-// lost.
-[[nodiscard]] long placeOfNextHandle();
+// The handles of the system that this process holds.
+[[nodiscard]] long openHandles();
+
+// The blocks of memory in use on all heaps of this process: its own, the system's texts and objects.
+[[nodiscard]] long memoryBlocks();
 
 // One of them, as long as it lives.
 class LiveObject {

@@ -35,7 +35,8 @@ Orders::~Orders() { DestroyWindow(window_); }
 
 LRESULT CALLBACK Orders::handle(HWND window, UINT message, WPARAM wide, LPARAM large) {
   if (message == kCountObjects) return liveObjects();
-  if (message == kNextHandle) return placeOfNextHandle();
+  if (message == kOpenHandles) return openHandles();
+  if (message == kMemoryBlocks) return memoryBlocks();
   auto* orders = reinterpret_cast<Orders*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (message == WM_COPYDATA) {
     const auto& data = *reinterpret_cast<const COPYDATASTRUCT*>(large);

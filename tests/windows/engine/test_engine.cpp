@@ -1,12 +1,12 @@
 #include "engine/test_engine.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 #include "com/module.h"
 #include "hosts/windows/com/ole_variant.h"
 #include "hosts/windows/win32/wide_text.h"
+#include "text/utf8.h"
 
 namespace testengine {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 using windows::ComPtr;
 using windows::wide;
 
-constexpr std::array kMethods{L"do", L"eval", L"SetCallback"};
+// The methods in their order.
 constexpr DISPID kDo = 1;
 constexpr DISPID kEval = 2;
 constexpr DISPID kSetCallback = 3;
@@ -52,6 +52,9 @@ HRESULT give(const std::string& answer, VARIANT* result) {
   result->bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   return S_OK;
 }
+
+// Counts a call towards the one that something was ordered for; 0 where nothing was.
+bool isDue(int& callsLeft) { return callsLeft > 0 && --callsLeft == 0; }
 
 LRESULT CALLBACK handleFrame(HWND window, UINT message, WPARAM wideArgument, LPARAM large) {
   return DefWindowProcW(window, message, wideArgument, large);
@@ -96,41 +99,8 @@ TestEngine::~TestEngine() {
   if (frame_ != nullptr) DestroyWindow(frame_);
 }
 
-HRESULT TestEngine::QueryInterface(REFIID id, void** result) {
-  if (result == nullptr) return E_POINTER;
-  const bool known = id == IID_IUnknown || id == IID_IDispatch;
-  *result = known ? static_cast<IDispatch*>(this) : nullptr;
-  if (!known) return E_NOINTERFACE;
-  AddRef();
-  return S_OK;
-}
-
-ULONG TestEngine::AddRef() { return ++references_; }
-
-ULONG TestEngine::Release() {
-  const ULONG left = --references_;
-  if (left > 0) return left;
-  references_ = 1;  // what happens while it goes may hold it again
-  delete this;
-  return 0;
-}
-
-HRESULT TestEngine::GetTypeInfoCount(UINT* count) {
-  *count = 0;
-  return S_OK;
-}
-
-HRESULT TestEngine::GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** info) {
-  *info = nullptr;
-  return DISP_E_BADINDEX;
-}
-
 HRESULT TestEngine::GetIDsOfNames(REFIID /*reserved*/, LPOLESTR* names, UINT count, LCID /*locale*/, DISPID* ids) {
-  std::fill_n(ids, count, DISPID_UNKNOWN);
-  for (std::size_t i = 0; i < kMethods.size(); ++i) {
-    if (lstrcmpiW(names[0], kMethods[i]) == 0) ids[0] = static_cast<DISPID>(i) + 1;
-  }
-  return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+  return find({"do", "eval", "SetCallback"}, names, count, ids);
 }
 
 HRESULT TestEngine::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, WORD /*flags*/, DISPPARAMS* parameters,
@@ -138,10 +108,17 @@ HRESULT TestEngine::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, WORD
   if (id < kDo || id > kSetCallback) return DISP_E_MEMBERNOTFOUND;
   if (parameters->cArgs != 1) return DISP_E_BADPARAMCOUNT;
   const ComPtr<TestEngine> self(this);  // the program may let go of it meanwhile
-  countCall();
+  if (isDue(asksAfter_)) MessageBoxW(nullptr, L"A question of the engine's", L"MapInfo", MB_OK);
+  const bool dies = isDue(diesAfter_);
+  const HRESULT answer = obey(id, parameters->rgvarg[0], result, exception);
+  if (dies) TerminateProcess(GetCurrentProcess(), 1);
+  return answer;
+}
+
+HRESULT TestEngine::obey(DISPID id, VARIANT& argument, VARIANT* result, EXCEPINFO* exception) {
   try {
-    if (id == kSetCallback) return setCallback(parameters->rgvarg[0], exception);
-    const std::string text = windows::textOf(parameters->rgvarg[0]);
+    if (id == kSetCallback) return setCallback(argument, exception);
+    const std::string text = windows::textOf(argument);
     if (id == kDo) noteApplicationWindow(text);
     if (id == kDo && text.starts_with(kCallBack)) return callBackNow(text.substr(kCallBack.size()), exception);
     if (id == kEval && text.starts_with(kHere)) return give(text.substr(kHere.size()), result);
@@ -213,15 +190,8 @@ bool TestEngine::carryOut(const wire::Fields& order) {
   }
 }
 
-void TestEngine::countCall() {
-  if (diesAfter_ > 0 && --diesAfter_ == 0) TerminateProcess(GetCurrentProcess(), 1);
-  if (asksAfter_ > 0 && --asksAfter_ == 0) MessageBoxW(nullptr, L"A question of the engine's", L"MapInfo", MB_OK);
-}
-
 void TestEngine::noteApplicationWindow(const std::string& statement) {
-  std::string lower = statement;
-  std::ranges::transform(lower, lower.begin(),
-                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  const std::string lower = text::lower(statement);
   if (!lower.starts_with(kApplicationWindow)) return;
   long long handle = 0;
   std::from_chars(lower.data() + kApplicationWindow.size(), lower.data() + lower.size(), handle);

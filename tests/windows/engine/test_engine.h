@@ -9,8 +9,8 @@
 #include "engine/live_objects.h"
 #include "engine/orders.h"
 #include "engine/settings.h"
+#include "hosts/windows/com/automation_object.h"
 #include "hosts/windows/com/com_ptr.h"
-#include "hosts/windows/win32/windows_h.h"
 #include "wire/conversation.h"
 
 namespace testengine {
@@ -18,19 +18,14 @@ namespace testengine {
 // The map engine's program id.
 inline constexpr const wchar_t* kProgramId = L"MapInfo.runtime";
 
-// An engine whose methods "do", "eval" and "SetCallback" are found by name in any case. A relay behind a connection
+// An engine with the methods "do", "eval" and "SetCallback". A relay behind a connection
 // knows what they mean; whatever fails there is an exception here, with its description and the error number
 // DISP_E_EXCEPTION.
-class TestEngine final : public IDispatch {
+class TestEngine final : public windows::AutomationObject {
  public:
   // With one reference, which the caller owns. Fails with std::runtime_error when there is no relay.
   [[nodiscard]] static windows::ComPtr<TestEngine> create();
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override;
-  ULONG STDMETHODCALLTYPE AddRef() override;
-  ULONG STDMETHODCALLTYPE Release() override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
                                           DISPID* ids) override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters,
@@ -38,21 +33,19 @@ class TestEngine final : public IDispatch {
 
  private:
   explicit TestEngine(const Settings& settings);
-  ~TestEngine();
+  ~TestEngine() override;
 
   [[nodiscard]] wire::Fields ask(const wire::Fields& question);
   [[nodiscard]] wire::Fields answer(const wire::Fields& question);
+  HRESULT obey(DISPID id, VARIANT& argument, VARIANT* result, EXCEPINFO* exception);
   HRESULT passOn(const wire::Fields& question, VARIANT* result, EXCEPINFO* exception);
   HRESULT setCallback(VARIANT& argument, EXCEPINFO* exception);
   HRESULT callBackNow(const std::string& words, EXCEPINFO* exception);
   // The program's callback object does what its method does; false when it has no such method.
   [[nodiscard]] bool callBack(const std::string& method, const std::string& message);
   [[nodiscard]] bool carryOut(const wire::Fields& order);
-  // What a test has ordered for one of the next calls.
-  void countCall();
   void noteApplicationWindow(const std::string& statement);
 
-  ULONG references_ = 1;
   LiveObject alive_;
   CallLog log_;
   windows::ComPtr<IDispatch> callback_;
@@ -60,7 +53,8 @@ class TestEngine final : public IDispatch {
   wire::Conversation conversation_{line_};
   EngineWindows windows_;
   HWND frame_ = nullptr;
-  int diesAfter_ = 0;  // calls; 0 for never
+  // Calls until what a test has ordered; 0 for never.
+  int diesAfter_ = 0;
   int asksAfter_ = 0;
   Orders orders_;
 };

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <functional>
+#include <iostream>
 #include <memory>
 #include <string>
 #include <thread>
@@ -38,6 +38,12 @@ class Calls : public platform::CallbackObject {
     return true;
   }
 
+  Calls() { ++alive; }
+  ~Calls() override { --alive; }
+  Calls(const Calls&) = delete;
+  Calls& operator=(const Calls&) = delete;
+
+  static inline int alive = 0;
   std::vector<std::string> heard;
   std::function<void()> whenCalled;
 };
@@ -59,6 +65,22 @@ class Ole : public ::testing::Test {
   }};
   std::shared_ptr<Calls> calls = std::make_shared<Calls>();
 };
+
+// What this process and the engine's hold, which may be the same.
+struct Counts {
+  Counts() {
+    EXPECT_GT(own.drawingObjects, 0);
+    EXPECT_GT(own.memoryBlocks, 0);
+    EXPECT_GT(server.memoryBlocks, 0);
+    EXPECT_GT(server.handles, 0);
+  }
+  ProcessCounts own = ProcessCounts::ofThisProcess();
+  ProcessCounts server = ProcessCounts::ofServer();
+};
+
+std::ostream& operator<<(std::ostream& out, const Counts& counts) {
+  return out << ' ' << counts.own << " (server: " << counts.server << ')';
+}
 
 int numberOf(const std::function<void()>& call) {
   try {
@@ -114,50 +136,35 @@ TEST_F(Ole, TheEngineCallsBackByItself) {
 }
 
 // Four calls a round: a statement that calls back, which asks once more, a new callback object, and an expression.
+// Every tenth round a statement fails.
 TEST_F(Ole, TenThousandCallsLeaveNothingBehind) {
   constexpr int kRounds = 2500;
-  constexpr LRESULT kOfTheSystem = 8;  // what it keeps for later calls
+  constexpr int kWarmUp = 200;
   auto engine = engines.create(kProgramId);
-  const bool inThisProcess = isInThisProcess();
-  std::vector<std::weak_ptr<Calls>> given;
   int asked = 0;
-  const auto playRound = [&] {
+  const auto playRound = [&](int round) {
     auto object = std::make_shared<Calls>();
     object->whenCalled = [&engine, &asked] { asked += engine->eval("here 1").int32(); };
     engine->setCallback(object);
-    given.push_back(object);
     object.reset();
-    engine->run("call back info MI:1,2");
     EXPECT_EQ(engine->eval("here ñ"), platform::Variant("ñ"));
+    const bool fails = round % 10 == 0;
+    EXPECT_EQ(numberOf([&] { engine->run(fails ? "call back nada x" : "call back info MI:1,2"); }),
+              fails ? failures::kEngineRejected : 0);
   };
-  constexpr int kWarmUp = 100;
-  for (int i = 0; i < kWarmUp; ++i) playRound();
-  handleMessages();
-  const ProcessCounts before = ProcessCounts::ofThisProcess();
-  const ProcessCounts serverBefore = ProcessCounts::ofServer();
-  for (int i = 0; i < kRounds; ++i) playRound();
-  handleMessages();
-  const ProcessCounts after = ProcessCounts::ofThisProcess();
-  const ProcessCounts serverAfter = ProcessCounts::ofServer();
-  std::cout << (inThisProcess ? "DLL" : "program") << ": " << 4 * kRounds << " calls; next handle " << before.nextHandle
-            << " -> " << after.nextHandle << " (server " << serverBefore.nextHandle << " -> " << serverAfter.nextHandle
-            << "), drawing objects " << before.drawingObjects << " -> " << after.drawingObjects << ", windows "
-            << before.windows << " -> " << after.windows << '\n';
-  EXPECT_EQ(asked, kRounds + kWarmUp);
-  EXPECT_LE(after.nextHandle, before.nextHandle + kOfTheSystem);
-  EXPECT_GT(serverBefore.nextHandle, 0);
-  EXPECT_LE(serverAfter.nextHandle, serverBefore.nextHandle + kOfTheSystem);
-  EXPECT_GT(before.drawingObjects, 0U);
-  EXPECT_LE(after.drawingObjects, before.drawingObjects);
-  EXPECT_LE(after.windows, before.windows);
-  EXPECT_LE(serverAfter.windows, serverBefore.windows);
+  for (int round = 0; round < kWarmUp; ++round) playRound(round);
+  const Counts before;
+  for (int round = 0; round < kRounds; ++round) playRound(round);
+  const Counts after;
+  std::cout << (isInThisProcess() ? "DLL" : "program") << ": " << 4 * kRounds << " calls;" << before << " ->" << after
+            << '\n';
+  EXPECT_EQ(asked, (kRounds + kWarmUp) * 9 / 10);
+  EXPECT_EQ(after.own.lostSince(before.own), "");
+  EXPECT_EQ(after.server.lostSince(before.server), "");
   EXPECT_EQ(objectsOfEngine(), 1);
-  const auto alive = [&] {
-    return std::count_if(given.begin(), given.end(), [](const auto& object) { return !object.expired(); });
-  };
-  EXPECT_EQ(alive(), 1) << "the one that the engine has";
+  EXPECT_EQ(Calls::alive, 2) << "the one that the engine has and this test's";
   engine.reset();
-  EXPECT_EQ(alive(), 0);
+  EXPECT_EQ(Calls::alive, 1);
   EXPECT_TRUE(becomesTrue([] { return engineListening() == nullptr; })) << "the engine is still there";
 }
 
@@ -168,23 +175,24 @@ TEST_F(Ole, AHundredEnginesLeaveNothingBehind) {
     engine->setCallback(calls);
     engine->run("call back info MI:1,2");
   };
-  live();
+  for (int i = 0; i < 10; ++i) live();
   handleMessages();
   const ProcessCounts before = ProcessCounts::ofThisProcess();
   for (int i = 0; i < kEngines; ++i) live();
-  handleMessages();
-  const ProcessCounts after = ProcessCounts::ofThisProcess();
-  std::cout << kEngines << " engines; next handle " << before.nextHandle << " -> " << after.nextHandle << '\n';
-  constexpr LRESULT kOfTheSystem = 8;  // what it keeps for later calls
-  EXPECT_LE(after.nextHandle, before.nextHandle + kOfTheSystem);
-  EXPECT_LE(after.drawingObjects, before.drawingObjects);
-  EXPECT_LE(after.windows, before.windows);
+  ProcessCounts after;
+  // The system lets go of a connection to a process some time after that has ended.
+  EXPECT_TRUE(becomesTrue([&] {
+    handleMessages();
+    after = ProcessCounts::ofThisProcess();
+    return after.lostSince(before).empty();
+  })) << after.lostSince(before);
+  std::cout << kEngines << " engines; " << before << " -> " << after << '\n';
   EXPECT_EQ(calls.use_count(), 1);
 }
 
 TEST_F(Ole, AnEngineThatDiesFailsItsCallAndEveryLaterOne) {
   auto engine = engines.create(kProgramId);
-  if (isInThisProcess()) return;  // it would take this test along
+  if (isInThisProcess()) GTEST_SKIP() << "an engine in this process would take the test along";
   ASSERT_TRUE(orders.give({"die", "3"}));
   EXPECT_EQ(numberOf([&] { (void)engine->eval("1"); }), 0);
   EXPECT_EQ(numberOf([&] { (void)engine->eval("1"); }), 0);

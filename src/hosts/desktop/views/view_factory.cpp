@@ -18,52 +18,33 @@
 #include "hosts/desktop/views/timer_view.h"
 #include "hosts/desktop/views/tree_view_view.h"
 #include "hosts/desktop/views/web_browser_view.h"
+#include "hosts/screen/view_makers.h"
 
 namespace desktop {
 namespace {
 
-using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, QWidget&, screen::ProgramCalls&);
+using Views = screen::ViewMakers<ControlView, QWidget&, screen::ProgramCalls&>;
 
-template <class Kind, class View>
-std::unique_ptr<ControlView> make(forms::Control& control, QWidget& parent, screen::ProgramCalls& calls) {
-  auto* kind = dynamic_cast<Kind*>(&control);
-  if (kind == nullptr) return nullptr;
-  return std::make_unique<View>(*kind, parent, calls);
+std::unique_ptr<ControlView> makeTimerView(forms::Timer& timer, QWidget&, screen::ProgramCalls& calls) {
+  return std::make_unique<TimerView>(timer, calls);
 }
 
-std::unique_ptr<ControlView> makeTimer(forms::Control& control, QWidget&, screen::ProgramCalls& calls) {
-  auto* timer = dynamic_cast<forms::Timer*>(&control);
-  if (timer == nullptr) return nullptr;
-  return std::make_unique<TimerView>(*timer, calls);
-}
-
-constexpr std::array<Maker, 17> kMakers{
-    make<forms::Label, LabelView>,
-    make<forms::CommandButton, CommandButtonView>,
-    make<forms::Frame, FrameView>,
-    make<forms::OptionButton, OptionView>,
-    make<forms::TextBox, TextBoxView>,
-    make<forms::DropDownList, ComboView>,
-    make<forms::EditableCombo, ComboView>,
-    make<forms::ListBox, ListBoxView>,
-    make<forms::TreeView, TreeViewView>,
-    make<forms::ProgressBar, ProgressBarView>,
-    make<forms::TabStrip, TabStripView>,
-    make<forms::TabControl, TabControlView>,
-    make<forms::PictureBox, PictureBoxView>,
-    make<forms::Image, ImageView>,
-    make<forms::Shape, ShapeView>,
-    make<forms::WebBrowser, WebBrowserView>,
-    makeTimer,
+constexpr std::array<Views::Maker, 17> kMakers{
+    Views::make<forms::Label, LabelView>,           Views::make<forms::CommandButton, CommandButtonView>,
+    Views::make<forms::Frame, FrameView>,           Views::make<forms::OptionButton, OptionView>,
+    Views::make<forms::TextBox, TextBoxView>,       Views::make<forms::DropDownList, ComboView>,
+    Views::make<forms::EditableCombo, ComboView>,   Views::make<forms::ListBox, ListBoxView>,
+    Views::make<forms::TreeView, TreeViewView>,     Views::make<forms::ProgressBar, ProgressBarView>,
+    Views::make<forms::TabStrip, TabStripView>,     Views::make<forms::TabControl, TabControlView>,
+    Views::make<forms::PictureBox, PictureBoxView>, Views::make<forms::Image, ImageView>,
+    Views::make<forms::Shape, ShapeView>,           Views::make<forms::WebBrowser, WebBrowserView>,
+    Views::makeChosen<forms::Timer, makeTimerView>,
 };
 
 }  // namespace
 
 std::unique_ptr<ControlView> makeView(forms::Control& control, QWidget& parent, screen::ProgramCalls& calls) {
-  for (const Maker maker : kMakers) {
-    if (auto view = maker(control, parent, calls)) return view;
-  }
-  return nullptr;
+  return Views::makeFirst(kMakers, control, parent, calls);
 }
 
 }  // namespace desktop

@@ -21,8 +21,11 @@ void check(HRESULT result) {
 
 }  // namespace
 
+PageControl::PageControl(HWND window, ComPtr<PageSite> site) : window_(window), site_(std::move(site)) {}
+
+// What is there when a step fails is taken apart by the destructor.
 PageControl::PageControl(HWND window, PageSite::Gate gate)
-    : window_(window), site_(PageSite::create(window, std::move(gate))) {
+    : PageControl(window, PageSite::create(window, std::move(gate))) {
   check(CoCreateInstance(CLSID_WebBrowser, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject,
                          reinterpret_cast<void**>(object_.put())));
   check(object_->SetClientSite(static_cast<IOleClientSite*>(site_.get())));

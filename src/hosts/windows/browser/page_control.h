@@ -28,6 +28,7 @@ class PageControl {
   [[nodiscard]] bool translate(const MSG& message) { return site_->translate(message); }
 
  private:
+  PageControl(HWND window, ComPtr<PageSite> site);
   void listen();
   void stopListening();
 

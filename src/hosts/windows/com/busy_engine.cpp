@@ -1,5 +1,7 @@
 #include "hosts/windows/com/busy_engine.h"
 
+#include <utility>
+
 #include "hosts/windows/modal_time.h"
 #include "hosts/windows/program_name.h"
 #include "hosts/windows/win32/wide_text.h"
@@ -12,9 +14,10 @@ constexpr const wchar_t* kQuestion =
     L"El motor de mapas está ocupado o espera una respuesta en una ventana suya.\n\n"
     L"Reintentar: seguir esperando.\nCancelar: dejar la operación sin terminar.";
 
-constexpr DWORD kPatience = 8000;   // milliseconds before the user is asked
-constexpr DWORD kStepAside = 1500;  // before the program's windows let others in front
-constexpr DWORD kTryAgain = 150;    // between tries of a refused call
+constexpr DWORD kPatience = 8000;      // milliseconds before the user is asked
+constexpr DWORD kStepAside = 1500;     // before the program's windows let others in front
+constexpr DWORD kTryAgain = 150;       // between tries of a refused call
+constexpr DWORD kLastPatience = 2000;  // before a call is given up when the session ends
 constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
 
 class Filter final : public IMessageFilter {
@@ -42,18 +45,34 @@ class Filter final : public IMessageFilter {
   }
 
   DWORD STDMETHODCALLTYPE RetryRejectedCall(HTASK callee, DWORD waited, DWORD) override {
-    if (!isTooLong(waited)) return kTryAgain;
-    return keepWaiting(callee, waited) ? kTryAgain : kGiveUp;
+    DWORD answer = kTryAgain;
+    host_.calls().guard([&] { answer = goesOnAfterRefusal(callee, waited) ? kTryAgain : kGiveUp; });
+    return answer;
   }
 
   // What the user does to the program's windows meanwhile is dropped by them, and tells that he waits.
   DWORD STDMETHODCALLTYPE MessagePending(HTASK callee, DWORD waited, DWORD) override {
-    if (waited >= kStepAside) stepAside(callee);
-    if (!isTooLong(waited) || !userIsWaiting()) return PENDINGMSG_WAITDEFPROCESS;
-    return keepWaiting(callee, waited) ? PENDINGMSG_WAITDEFPROCESS : PENDINGMSG_CANCELCALL;
+    DWORD answer = PENDINGMSG_WAITDEFPROCESS;
+    host_.calls().guard([&] { answer = goesOn(callee, waited) ? PENDINGMSG_WAITDEFPROCESS : PENDINGMSG_CANCELCALL; });
+    return answer;
   }
 
  private:
+  [[nodiscard]] bool goesOnAfterRefusal(HTASK callee, DWORD waited) {
+    if (host_.sessionEnds()) return waited < kLastPatience;
+    return !isTooLong(waited) || keepWaiting(callee, waited);
+  }
+
+  // A call that the user gives up is cancelled at the next look: its answer may have come while he was asked, and is
+  // taken before there is another look.
+  [[nodiscard]] bool goesOn(HTASK callee, DWORD waited) {
+    if (host_.sessionEnds()) return waited < kLastPatience;
+    if (const DWORD givenUp = std::exchange(givenUpAfter_, 0); givenUp > 0 && waited >= givenUp) return false;
+    if (waited >= kStepAside) stepAside(callee);
+    if (isTooLong(waited) && userIsWaiting() && !keepWaiting(callee, waited)) givenUpAfter_ = waited;
+    return true;
+  }
+
   // Whether the wait for a call is longer than what the user has agreed to so far.
   [[nodiscard]] bool isTooLong(DWORD waited) {
     if (waited < forgiven_) forgiven_ = 0;  // another call
@@ -64,11 +83,7 @@ class Filter final : public IMessageFilter {
 
   // A box of the engine must not stay behind a window of ours.
   void stepAside(HTASK callee) const {
-    constexpr UINT kStay = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
-    for (const FormWindow* window : host_.windows()) {
-      const bool isTopmost = (GetWindowLongPtrW(window->handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-      if (isTopmost) SetWindowPos(window->handle(), HWND_NOTOPMOST, 0, 0, 0, 0, kStay);
-    }
+    host_.waitingWindows().stepAside();
     if (userIsWaiting()) EnumThreadWindows(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(callee)), bringForward, 0);
   }
 
@@ -92,14 +107,14 @@ class Filter final : public IMessageFilter {
 
   const WindowsHost& host_;
   ULONG references_ = 1;
-  DWORD forgiven_ = 0;  // the part of the wait that the user has agreed to
+  DWORD forgiven_ = 0;      // the part of the wait that the user has agreed to
+  DWORD givenUpAfter_ = 0;  // the wait of the call that the user has given up; 0 for none
   bool asking_ = false;
 };
 
 }  // namespace
 
-BusyEngine::BusyEngine(const WindowsHost& host)
-    : pulse_(host.calls()), filter_(ComPtr<IMessageFilter>::owning(new Filter(host))) {
+BusyEngine::BusyEngine(WindowsHost& host) : pulse_(host), filter_(ComPtr<IMessageFilter>::owning(new Filter(host))) {
   CoRegisterMessageFilter(filter_.get(), nullptr);
 }
 

@@ -2,13 +2,11 @@
 
 #include <oleauto.h>
 
-#include <algorithm>
 #include <exception>
 
 #include "hosts/windows/com/ole_variant.h"
 #include "hosts/windows/win32/wide_text.h"
 #include "text/failure.h"
-#include "text/utf8.h"
 
 namespace windows {
 namespace {
@@ -34,47 +32,10 @@ ComPtr<CallbackDispatch> CallbackDispatch::create(std::shared_ptr<platform::Call
 
 void CallbackDispatch::disconnect() { object_.reset(); }
 
-HRESULT CallbackDispatch::QueryInterface(REFIID id, void** result) {
-  if (result == nullptr) return E_POINTER;
-  *result = nullptr;
-  if (id != IID_IUnknown && id != IID_IDispatch) return E_NOINTERFACE;
-  *result = static_cast<IDispatch*>(this);
-  AddRef();
-  return S_OK;
-}
-
-ULONG CallbackDispatch::AddRef() { return ++references_; }
-
-ULONG CallbackDispatch::Release() {
-  const ULONG left = --references_;
-  if (left == 0) delete this;
-  return left;
-}
-
-HRESULT CallbackDispatch::GetTypeInfoCount(UINT* count) {
-  if (count == nullptr) return E_POINTER;
-  *count = 0;
-  return S_OK;
-}
-
-HRESULT CallbackDispatch::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
-  if (info != nullptr) *info = nullptr;
-  return DISP_E_BADINDEX;
-}
-
-// Names after the first would be those of arguments, which have none.
 HRESULT CallbackDispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
-  if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
-  std::fill_n(ids, count, DISPID_UNKNOWN);
   if (object_ == nullptr) return RPC_E_DISCONNECTED;
   try {
-    const std::string wanted = utf8(names[0]);
-    const std::vector<std::string> methods = object_->methods();
-    const auto found =
-        std::ranges::find_if(methods, [&](const auto& method) { return text::equalsIgnoringCase(method, wanted); });
-    if (found == methods.end()) return DISP_E_UNKNOWNNAME;
-    ids[0] = static_cast<DISPID>(found - methods.begin()) + 1;
-    return count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
+    return find(object_->methods(), names, count, ids);
   } catch (...) {
     return E_OUTOFMEMORY;
   }

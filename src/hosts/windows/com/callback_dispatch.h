@@ -2,16 +2,16 @@
 
 #include <memory>
 
+#include "hosts/windows/com/automation_object.h"
 #include "hosts/windows/com/com_ptr.h"
-#include "hosts/windows/win32/windows_h.h"
 #include "platform/map_engine.h"
 
 namespace windows {
 
-// A callback object as the engine sees it: an IDispatch whose names are the object's methods, found without regard to
-// case and numbered from 1 in their order. Every method takes one text and gives nothing. No exception leaves it: what
-// fails inside is answered with DISP_E_EXCEPTION and a description.
-class CallbackDispatch final : public IDispatch {
+// A callback object as the engine sees it: an IDispatch whose names are the object's methods. Every method takes one
+// text and gives nothing. No exception leaves it: what fails inside is answered with DISP_E_EXCEPTION and a
+// description.
+class CallbackDispatch final : public AutomationObject {
  public:
   // With one reference, which the caller owns.
   [[nodiscard]] static ComPtr<CallbackDispatch> create(std::shared_ptr<platform::CallbackObject> object);
@@ -19,11 +19,6 @@ class CallbackDispatch final : public IDispatch {
   // Lets go of the object: whoever still holds a reference calls nobody (RPC_E_DISCONNECTED).
   void disconnect();
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override;
-  ULONG STDMETHODCALLTYPE AddRef() override;
-  ULONG STDMETHODCALLTYPE Release() override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale,
                                           DISPID* ids) override;
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters,
@@ -31,10 +26,8 @@ class CallbackDispatch final : public IDispatch {
 
  private:
   explicit CallbackDispatch(std::shared_ptr<platform::CallbackObject> object) : object_(std::move(object)) {}
-  ~CallbackDispatch() = default;
   [[nodiscard]] HRESULT call(DISPID id, const VARIANT& argument) const;
 
-  ULONG references_ = 1;
   std::shared_ptr<platform::CallbackObject> object_;
 };
 

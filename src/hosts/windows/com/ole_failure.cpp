@@ -16,6 +16,9 @@ struct Known {
   HRESULT result;
   int number;
   const char* description;
+  bool isGone = false;  // the other side
+
+  [[nodiscard]] constexpr int failure() const { return number != 0 ? number : static_cast<int>(result); }
 };
 
 constexpr HRESULT kServerUnavailable = static_cast<HRESULT>(0x800706BA);
@@ -36,9 +39,12 @@ constexpr std::array kKnown{
     Known{REGDB_E_CLASSNOTREG, 429, "El componente ActiveX no puede crear el objeto."},
     Known{CO_E_CLASSSTRING, 429, "El componente ActiveX no puede crear el objeto."},
     Known{CO_E_SERVER_EXEC_FAILURE, 429, "El componente ActiveX no puede crear el objeto."},
-    Known{kServerUnavailable, 462, "El motor de mapas no existe o no está disponible."},
-    Known{kCallFailed, 0, "El motor de mapas ha dejado de funcionar."},
-    Known{RPC_E_DISCONNECTED, 0, "El motor de mapas se ha desconectado."},
+    Known{kServerUnavailable, 462, "El motor de mapas no existe o no está disponible.", true},
+    Known{kCallFailed, 0, "El motor de mapas ha dejado de funcionar.", true},
+    Known{RPC_E_SERVER_DIED, 0, "El motor de mapas ha dejado de funcionar.", true},
+    Known{RPC_E_SERVER_DIED_DNE, 0, "El motor de mapas ha dejado de funcionar.", true},
+    Known{RPC_E_DISCONNECTED, 0, "El motor de mapas se ha desconectado.", true},
+    Known{CO_E_OBJNOTCONNECTED, 0, "El motor de mapas se ha desconectado.", true},
     Known{RPC_E_SERVERFAULT, 0, "El motor de mapas ha fallado."},
     Known{RPC_E_CALL_REJECTED, 0, "El motor de mapas está ocupado."},
     Known{RPC_E_SERVERCALL_RETRYLATER, 0, "El motor de mapas está ocupado."},
@@ -68,9 +74,14 @@ std::string taken(BSTR& text) {
 Failure failureOf(HRESULT result, const std::string& said) {
   const auto* known = std::ranges::find(kKnown, result, &Known::result);
   const bool isKnown = known != kKnown.end();
-  const int number = isKnown && known->number != 0 ? known->number : static_cast<int>(result);
+  const int number = isKnown ? known->failure() : static_cast<int>(result);
   if (!said.empty()) return {number, said};
   return {number, isKnown ? known->description : systemText(result)};
+}
+
+bool saysItIsGone(int number) {
+  return std::ranges::any_of(kKnown,
+                             [number](const Known& known) { return known.isGone && known.failure() == number; });
 }
 
 std::string takeDescription(EXCEPINFO& exception) {

@@ -10,6 +10,9 @@ namespace windows {
 // system's.
 [[nodiscard]] Failure failureOf(HRESULT result, const std::string& said = {});
 
+// Whether a failure with this number says that the other side is there no more.
+[[nodiscard]] bool saysItIsGone(int number);
+
 // What the other side said in its answer DISP_E_EXCEPTION; frees what the answer holds.
 [[nodiscard]] std::string takeDescription(EXCEPINFO& exception);
 

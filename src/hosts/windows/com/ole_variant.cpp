@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <new>
 
 #include "hosts/windows/win32/wide_text.h"
 #include "text/failure.h"
@@ -32,6 +33,7 @@ OleVariant::OleVariant(std::string_view utf8) {
   VariantInit(&value_);
   const std::wstring text = wide(utf8);
   value_.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+  if (value_.bstrVal == nullptr) throw std::bad_alloc();
   value_.vt = VT_BSTR;
 }
 

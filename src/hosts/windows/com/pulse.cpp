@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "hosts/windows/win32/message_window.h"
+#include "hosts/windows/windows_host.h"
 
 namespace windows {
 namespace {
@@ -12,12 +13,12 @@ constexpr DWORD kInterval = 500;  // milliseconds
 
 }  // namespace
 
-Pulse::Pulse(screen::ProgramCalls& calls) : calls_(calls), window_(makeMessageWindow(L"VeldoriaPulse", receive, this)) {
-  calls_.began = [this] { start(); };
+Pulse::Pulse(WindowsHost& host) : host_(host), window_(makeMessageWindow(L"VeldoriaPulse", receive, this)) {
+  host_.callBegan = [this] { start(); };
 }
 
 Pulse::~Pulse() {
-  calls_.began = nullptr;
+  host_.callBegan = nullptr;
   stop();
 }
 
@@ -36,7 +37,7 @@ void Pulse::stop() {
 LRESULT Pulse::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {
   auto* pulse = ownerOf<Pulse>(window);
   if (pulse == nullptr || message != kBeat) return DefWindowProcW(window, message, wide, large);
-  if (!pulse->calls_.isBusy()) pulse->stop();
+  if (!pulse->host_.calls().isBusy()) pulse->stop();
   return 0;
 }
 

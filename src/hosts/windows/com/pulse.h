@@ -1,16 +1,17 @@
 #pragma once
 
-#include "hosts/screen/program_calls.h"
 #include "hosts/windows/win32/handles.h"
 
 namespace windows {
+
+class WindowsHost;
 
 // A message to this thread twice a second while a call into the program is under way: whoever waits in it for another
 // process gets to look about, whether the user does something or not.
 class Pulse {
  public:
-  // `calls` outlives the pulse, which hears when its calls begin.
-  explicit Pulse(screen::ProgramCalls& calls);
+  // The host outlives the pulse, which hears when calls begin.
+  explicit Pulse(WindowsHost& host);
   ~Pulse();
   Pulse(const Pulse&) = delete;
   Pulse& operator=(const Pulse&) = delete;
@@ -21,7 +22,7 @@ class Pulse {
   void start();
   void stop();
 
-  screen::ProgramCalls& calls_;
+  WindowsHost& host_;
   WindowHandle window_;
   HANDLE timer_ = nullptr;
 };

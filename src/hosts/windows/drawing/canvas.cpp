@@ -74,11 +74,10 @@ void Canvas::picture(const std::string& name, const RECT& rect, double strength)
 }
 
 void Canvas::text(const std::wstring& text, RECT rect, HFONT font, forms::Color color, UINT format) {
-  const HGDIOBJ before = SelectObject(device_, font);
+  const SelectedObject selected(device_, font);
   SetBkMode(device_, TRANSPARENT);
   SetTextColor(device_, static_cast<COLORREF>(color));
   DrawTextW(device_, text.c_str(), static_cast<int>(text.size()), &rect, format);
-  SelectObject(device_, before);
 }
 
 void Canvas::line(const std::vector<POINT>& points, forms::Color color, double thickness) {

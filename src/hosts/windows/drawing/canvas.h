@@ -7,6 +7,7 @@
 #include "forms/control.h"
 #include "hosts/windows/drawing/gdiplus.h"
 #include "hosts/windows/drawing/scale.h"
+#include "hosts/windows/drawing/selected_object.h"
 #include "hosts/windows/win32/handles.h"
 
 namespace windows {
@@ -47,7 +48,7 @@ template <class Draw>
 void drawBuffered(HDC target, const RECT& rect, const Scale& scale, Draw draw) {
   const DeviceHandle memory(CreateCompatibleDC(target));
   const BitmapHandle bitmap(CreateCompatibleBitmap(target, widthOf(rect), heightOf(rect)));
-  const HGDIOBJ before = SelectObject(memory.get(), bitmap.get());
+  const SelectedObject selected(memory.get(), bitmap.get());
   SetViewportOrgEx(memory.get(), -rect.left, -rect.top, nullptr);
   {
     Canvas canvas(memory.get(), scale);
@@ -55,7 +56,6 @@ void drawBuffered(HDC target, const RECT& rect, const Scale& scale, Draw draw) {
   }
   SetViewportOrgEx(memory.get(), 0, 0, nullptr);
   BitBlt(target, rect.left, rect.top, widthOf(rect), heightOf(rect), memory.get(), 0, 0, SRCCOPY);
-  SelectObject(memory.get(), before);
 }
 
 }  // namespace windows

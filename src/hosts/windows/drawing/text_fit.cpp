@@ -21,10 +21,9 @@ UINT formatOf(Across across) {
 }
 
 SIZE measured(HDC device, const std::wstring& text, HFONT font, int width, UINT format) {
-  const HGDIOBJ before = SelectObject(device, font);
+  const SelectedObject selected(device, font);
   RECT box{0, 0, width, 0};
   DrawTextW(device, text.c_str(), static_cast<int>(text.size()), &box, format | DT_CALCRECT);
-  SelectObject(device, before);
   return {widthOf(box), heightOf(box)};
 }
 

@@ -7,7 +7,7 @@ namespace windows {
 class WindowsHost;
 
 // The system's message boxes, with the style and title given, in front of the program's own window. The program's other
-// windows take no input meanwhile.
+// windows take no input meanwhile. When the user's session with the system ends nothing is shown, and the answer is No.
 class NativeMessages : public platform::Messages {
  public:
   // The host outlives this.

@@ -1,7 +1,7 @@
 #include "hosts/windows/ports/native_windows.h"
 
 #include "hosts/windows/win32/wide_text.h"
-#include "hosts/windows/win32/windows_h.h"
+#include "hosts/windows/win32/z_order.h"
 
 namespace windows {
 namespace {
@@ -32,8 +32,7 @@ void NativeWindows::setZOrder(platform::WindowHandle window, platform::ZOrder or
   static_assert(platform::kNoSize == SWP_NOSIZE && platform::kNoMove == SWP_NOMOVE &&
                 platform::kNoActivate == SWP_NOACTIVATE && platform::kShowWindow == SWP_SHOWWINDOW);
   if (window == 0) return;
-  const HWND behind = order == platform::ZOrder::topmost ? HWND_TOPMOST : HWND_NOTOPMOST;
-  SetWindowPos(windowOf(window), behind, 0, 0, 0, 0, flags);
+  setTopmost(windowOf(window), order == platform::ZOrder::topmost, flags);
 }
 
 }  // namespace windows

@@ -1,6 +1,6 @@
 #include "hosts/windows/ports/ole_engines.h"
 
-#include "hosts/windows/com/callback_dispatch.h"
+#include "hosts/windows/com/callback_reference.h"
 #include "hosts/windows/com/late_bound.h"
 #include "hosts/windows/win32/wide_text.h"
 #include "text/failure.h"
@@ -11,9 +11,6 @@ namespace {
 class OleEngine : public platform::MapEngine {
  public:
   explicit OleEngine(ComPtr<IDispatch> object) : engine_(std::move(object)) {}
-  ~OleEngine() override { disconnect(); }
-  OleEngine(const OleEngine&) = delete;
-  OleEngine& operator=(const OleEngine&) = delete;
 
   // The pointer says that the program waits until the call into the program returns.
   void run(const std::string& statements) override {
@@ -27,31 +24,22 @@ class OleEngine : public platform::MapEngine {
     return engine_.ask(L"eval", text.get());
   }
 
-  // By reference, as a variable is passed. What the engine puts there instead is let go of.
+  // By reference, as a variable is passed. What the engine puts there instead is let go of, and so is a callback object
+  // that it refuses; the one before it stays.
   void setCallback(std::shared_ptr<platform::CallbackObject> callback) override {
-    const auto dispatch =
-        callback == nullptr ? ComPtr<CallbackDispatch>() : CallbackDispatch::create(std::move(callback));
-    ComPtr<IDispatch> variable(dispatch.get());
+    CallbackReference next(std::move(callback));
+    ComPtr<IDispatch> variable(next.get());
     VARIANT argument;
     VariantInit(&argument);
     argument.vt = VT_DISPATCH | VT_BYREF;
     argument.ppdispVal = variable.inOut();
     engine_.call(L"SetCallback", argument);
-    disconnect();
-    callback_ = dispatch;
+    callback_ = std::move(next);
   }
 
  private:
-  // An engine that outlives its session, or forgets to let go, calls nobody.
-  void disconnect() {
-    if (!callback_) return;
-    callback_->disconnect();
-    CoDisconnectObject(callback_.get(), 0);
-    callback_.reset();
-  }
-
   LateBound engine_;
-  ComPtr<CallbackDispatch> callback_;
+  CallbackReference callback_;
 };
 
 }  // namespace

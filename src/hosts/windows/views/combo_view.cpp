@@ -1,5 +1,6 @@
 #include "hosts/windows/views/combo_view.h"
 
+#include "hosts/windows/drawing/ruler.h"
 #include "hosts/windows/win32/wide_text.h"
 #include "hosts/windows/win32/window_text.h"
 
@@ -54,13 +55,7 @@ void ComboView::itemAdded(const std::string& item) {
   constexpr double kMargins = 12;
   const std::wstring text = wide(item);
   SendMessageW(window(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-  const HDC device = GetDC(window());
-  const HGDIOBJ before = SelectObject(device, font());
-  SIZE size{};
-  GetTextExtentPoint32W(device, text.c_str(), static_cast<int>(text.size()), &size);
-  SelectObject(device, before);
-  ReleaseDC(window(), device);
-  const int needed = size.cx + scale().of(kMargins) + GetSystemMetrics(SM_CXVSCROLL);
+  const int needed = Ruler(window(), font()).widthOf(text) + scale().of(kMargins) + GetSystemMetrics(SM_CXVSCROLL);
   if (needed > SendMessageW(window(), CB_GETDROPPEDWIDTH, 0, 0)) {
     SendMessageW(window(), CB_SETDROPPEDWIDTH, static_cast<WPARAM>(needed), 0);
   }

@@ -12,6 +12,7 @@ class ComboView : public ControlView {
   ComboView(forms::ItemList& list, ViewContext& context, HWND parent);
   void sync(forms::Property property) override;
   void rescale() override;
+  [[nodiscard]] bool isOpen() const;
   void itemAdded(const std::string& item) override;
   void cleared() override;
   void commanded(WORD code) override;
@@ -21,7 +22,6 @@ class ComboView : public ControlView {
 
  private:
   [[nodiscard]] int selection() const;
-  [[nodiscard]] bool isOpen() const;
   [[nodiscard]] bool isChosenAgain() const;
   void showChoice();
   void fitHeight();

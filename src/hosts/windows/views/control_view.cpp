@@ -3,6 +3,7 @@
 #include "hosts/screen/palette.h"
 #include "hosts/screen/pop_up_frames.h"
 #include "hosts/windows/drawing/fonts.h"
+#include "hosts/windows/drawing/painting.h"
 #include "hosts/windows/views/background.h"
 #include "hosts/windows/win32/wide_text.h"
 
@@ -82,11 +83,16 @@ void ControlView::repaint() const {
   if (window() != nullptr) InvalidateRect(window(), nullptr, FALSE);
 }
 
-void ControlView::act(ActionQueue::Action action) const {
-  forms::Form& form = control_.form();
-  context_.queue.post([&form, action = std::move(action)] {
+ActionQueue::Action ControlView::whileLoaded(ActionQueue::Action action) const {
+  return [&form = control_.form(), action = std::move(action)] {
     if (form.isLoaded()) action();
-  });
+  };
+}
+
+void ControlView::act(ActionQueue::Action action) const { context_.queue.post(whileLoaded(std::move(action))); }
+
+void ControlView::actWhenFree(ActionQueue::Action action) const {
+  context_.queue.postWhenFree(whileLoaded(std::move(action)));
 }
 
 void ControlView::pointAt() {
@@ -105,10 +111,8 @@ void ControlView::drawItem(const DRAWITEMSTRUCT& item) {
 }
 
 LRESULT ControlView::paintWindow() const {
-  PAINTSTRUCT painting;
-  const HDC device = BeginPaint(window(), &painting);
-  drawBuffered(device, clientRect(), scale(), [this](Canvas& canvas) { paint(canvas, 0); });
-  EndPaint(window(), &painting);
+  const Painting painting(window());
+  drawBuffered(painting.device(), clientRect(), scale(), [this](Canvas& canvas) { paint(canvas, 0); });
   return 0;
 }
 
@@ -128,15 +132,12 @@ std::optional<LRESULT> ControlView::handle(UINT message, WPARAM, LPARAM large) {
     case WM_SETFOCUS:
       if (control_.GotFocus.hasHandlers() && !context_.restoresFocus) {
         forms::Control& control = control_;
-        context_.queue.postWhenFree([&control] {
-          if (control.form().isLoaded()) control.userFocus();
-        });
+        actWhenFree([&control] { control.userFocus(); });
       }
       break;
     case WM_SETCURSOR:
-      if (!context_.calls.isBusy() || LOWORD(large) != HTCLIENT) break;
-      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-      return TRUE;
+      if (showsWaiting(context_, large)) return TRUE;
+      break;
     default:
       break;
   }
@@ -156,11 +157,19 @@ LRESULT ControlView::receive(HWND window, UINT message, WPARAM wide, LPARAM larg
     RemoveWindowSubclass(window, receive, id);
     return DefSubclassProc(window, message, wide, large);
   }
-  if (const auto answer = reflect(message, wide, large)) return *answer;
-  if (view->window() == window) {
-    if (const auto answer = view->handle(message, wide, large)) return *answer;
-  }
-  return DefSubclassProc(window, message, wide, large);
+  LRESULT result = 0;
+  view->context_.calls.guard([&] {
+    auto answer = reflect(message, wide, large);
+    if (!answer && view->window() == window) answer = view->handle(message, wide, large);
+    result = answer ? *answer : DefSubclassProc(window, message, wide, large);
+  });
+  return result;
+}
+
+bool showsWaiting(const ViewContext& context, LPARAM hit) {
+  const bool shows = context.calls.isBusy() && LOWORD(hit) == HTCLIENT;
+  if (shows) SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+  return shows;
 }
 
 std::optional<LRESULT> reflect(UINT message, WPARAM wide, LPARAM large) {

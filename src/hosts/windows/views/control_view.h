@@ -66,6 +66,8 @@ class ControlView : public screen::ControlDisplay {
   // Tells the model what the user did, when the control is done with its message; nothing while the program is at work
   // or its form is not loaded. The action must not need the view, which may be gone by then.
   void act(ActionQueue::Action action) const;
+  // The same, but when the program is at work it is told as soon as that is done.
+  void actWhenFree(ActionQueue::Action action) const;
 
   // A message to the window; nothing leaves it to the window itself.
   [[nodiscard]] virtual std::optional<LRESULT> handle(UINT message, WPARAM wide, LPARAM large);
@@ -78,6 +80,8 @@ class ControlView : public screen::ControlDisplay {
   LRESULT paintWindow() const;
 
  private:
+  // The action, unless the form is not loaded by then.
+  [[nodiscard]] ActionQueue::Action whileLoaded(ActionQueue::Action action) const;
   static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM wide, LPARAM large, UINT_PTR id, DWORD_PTR view);
   [[nodiscard]] bool pointerHasMoved();
 
@@ -89,6 +93,10 @@ class ControlView : public screen::ControlDisplay {
   WindowHandle window_;
   DWORD lastPointer_ = 0;
 };
+
+// Answers WM_SETCURSOR, whose second parameter is `hit`, while a call is under way: the pointer says so. False when
+// none is, and outside the window's own room.
+[[nodiscard]] bool showsWaiting(const ViewContext& context, LPARAM hit);
 
 // Passes on what a child window tells its parent in a message to the child's view; nothing when it is none of this.
 [[nodiscard]] std::optional<LRESULT> reflect(UINT message, WPARAM wide, LPARAM large);

@@ -21,7 +21,7 @@ class ListBoxView : public ControlView {
   void pick();
 
   forms::ListBox& list_;
-  bool told_ = false;  // of the row under the button that is pressed
+  bool told_ = true;  // of the row under the button that is pressed
 };
 
 }  // namespace windows

@@ -1,22 +1,9 @@
 #include "hosts/windows/views/pane_class.h"
 
-#include "hosts/windows/win32/windows_h.h"
+#include "hosts/windows/win32/window_class.h"
 
 namespace windows {
 
-const wchar_t* paneClass() {
-  static constexpr const wchar_t* kName = L"VeldoriaPane";
-  static const ATOM registered = [] {
-    WNDCLASSEXW pane{};
-    pane.cbSize = sizeof pane;
-    pane.lpfnWndProc = DefWindowProcW;
-    pane.hInstance = GetModuleHandleW(nullptr);
-    pane.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    pane.lpszClassName = kName;
-    return RegisterClassExW(&pane);
-  }();
-  static_cast<void>(registered);
-  return kName;
-}
+const wchar_t* paneClass() { return registered({.name = L"VeldoriaPane", .receive = DefWindowProcW}); }
 
 }  // namespace windows

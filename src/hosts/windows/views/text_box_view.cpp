@@ -25,10 +25,15 @@ void TextBoxView::sync(forms::Property property) {
   quiet_ = false;
 }
 
+// Also what is typed while the program is at work, which it hears of when it is done; by then it may have written a
+// text of its own.
 void TextBoxView::commanded(WORD code) {
   if (code != EN_CHANGE || quiet_) return;
   forms::TextBox& box = box_;
-  act([&box, text = textOf(window())] { box.userEdit(text); });
+  actWhenFree([&box, typedInto = window()] {
+    const ControlView* view = of(typedInto);
+    if (view != nullptr && &view->control() == &box) box.userEdit(textOf(typedInto));
+  });
 }
 
 NoticeView::NoticeView(forms::TextBox& box, ViewContext& context, HWND parent)

@@ -6,6 +6,7 @@
 #include "hosts/screen/palette.h"
 #include "hosts/screen/tree_text.h"
 #include "hosts/windows/drawing/fonts.h"
+#include "hosts/windows/drawing/ruler.h"
 #include "hosts/windows/win32/clipboard.h"
 #include "hosts/windows/win32/wide_text.h"
 
@@ -20,34 +21,6 @@ constexpr double kMargin = 6;  // right of the figures
 constexpr double kGap = 10;    // between a text and its figure
 constexpr UINT kBroken = DT_LEFT | DT_TOP | DT_WORDBREAK | DT_NOPREFIX;
 constexpr const wchar_t* kHint = L"Elija un lugar en el mapa para ver aquí sus indicadores.";
-
-// A device for measuring texts with a font.
-class Ruler {
- public:
-  Ruler(HWND window, HFONT font) : window_(window), device_(GetDC(window)), before_(SelectObject(device_, font)) {}
-  ~Ruler() {
-    SelectObject(device_, before_);
-    ReleaseDC(window_, device_);
-  }
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-
-  [[nodiscard]] int widthOf(const std::wstring& text) const {
-    SIZE size{};
-    GetTextExtentPoint32W(device_, text.c_str(), static_cast<int>(text.size()), &size);
-    return size.cx;
-  }
-  [[nodiscard]] int heightIn(const std::wstring& text, int width) const {
-    RECT box{0, 0, width, 0};
-    DrawTextW(device_, text.c_str(), static_cast<int>(text.size()), &box, kBroken | DT_CALCRECT);
-    return box.bottom;
-  }
-
- private:
-  HWND window_;
-  HDC device_;
-  HGDIOBJ before_;
-};
 
 struct Parts {
   std::wstring text;
@@ -103,7 +76,7 @@ void TreeViewView::sync(forms::Property property) {
 
 int TreeViewView::lineHeight() const {
   const Ruler ruler(window(), bold_.get());
-  return ruler.heightIn(L"Ág", 1000) + scale().of(kRowPadding);
+  return ruler.heightIn(L"Ág", 1000, kBroken) + scale().of(kRowPadding);
 }
 
 HFONT TreeViewView::fontOf(const forms::Node& node) const { return node.style().bold ? bold_.get() : font(); }
@@ -115,7 +88,8 @@ int TreeViewView::linesOf(const forms::Node& node) const {
   int width = fittedWidth_ - leftOf(node) - scale().of(kMargin);
   if (!parts.figure.empty()) width -= Ruler(window(), bold_.get()).widthOf(parts.figure) + scale().of(kGap);
   const int line = lineHeight();
-  const int needed = Ruler(window(), fontOf(node)).heightIn(parts.text, std::max(1, width)) + scale().of(kRowPadding);
+  const int needed =
+      Ruler(window(), fontOf(node)).heightIn(parts.text, std::max(1, width), kBroken) + scale().of(kRowPadding);
   return std::max(1, (needed + line - 1) / line);
 }
 
@@ -269,7 +243,7 @@ void TreeViewView::drawItem(Canvas& canvas, const forms::Node& node, const RECT&
   if (!parts.figure.empty()) {
     inside.right -= Ruler(window(), bold_.get()).widthOf(parts.figure) + scale().of(kGap);
   }
-  inside.top += (heightOf(inside) - Ruler(window(), fontOf(node)).heightIn(parts.text, widthOf(inside))) / 2;
+  inside.top += (heightOf(inside) - Ruler(window(), fontOf(node)).heightIn(parts.text, widthOf(inside), kBroken)) / 2;
   figure.top = inside.top;
   canvas.text(parts.figure, figure, bold_.get(), ink, DT_RIGHT | DT_TOP | DT_SINGLELINE | DT_NOPREFIX);
   canvas.text(parts.text, inside, fontOf(node), ink, kBroken);
@@ -291,11 +265,10 @@ void TreeViewView::drawMark(Canvas& canvas, const forms::Node& node, const RECT&
 // A tree without nodes says how to fill it.
 void TreeViewView::drawHint() const {
   constexpr double kInset = 12;
-  const HDC device = GetDC(window());
+  const WindowDevice device(window());
   RECT inside = clientRect();
   InflateRect(&inside, -scale().of(kInset), -scale().of(kInset));
-  Canvas(device, scale()).text(kHint, inside, font(), kMuted, DT_CENTER | DT_TOP | DT_WORDBREAK | DT_NOPREFIX);
-  ReleaseDC(window(), device);
+  Canvas(device.get(), scale()).text(kHint, inside, font(), kMuted, DT_CENTER | DT_TOP | DT_WORDBREAK | DT_NOPREFIX);
 }
 
 std::optional<LRESULT> TreeViewView::handle(UINT message, WPARAM wideWord, LPARAM large) {

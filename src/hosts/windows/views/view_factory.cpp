@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "hosts/screen/view_makers.h"
 #include "hosts/windows/views/combo_view.h"
 #include "hosts/windows/views/command_button_view.h"
 #include "hosts/windows/views/frame_view.h"
@@ -21,48 +22,32 @@
 namespace windows {
 namespace {
 
-using Maker = std::unique_ptr<ControlView> (*)(forms::Control&, ViewContext&, HWND);
+using Views = screen::ViewMakers<ControlView, ViewContext&, HWND>;
 
-template <class Kind, class View>
-std::unique_ptr<ControlView> make(forms::Control& control, ViewContext& context, HWND parent) {
-  auto* kind = dynamic_cast<Kind*>(&control);
-  return kind == nullptr ? nullptr : std::make_unique<View>(*kind, context, parent);
-}
-
-// For kinds that look different from control to control.
-template <class Kind, std::unique_ptr<ControlView> (*maker)(Kind&, ViewContext&, HWND)>
-std::unique_ptr<ControlView> choose(forms::Control& control, ViewContext& context, HWND parent) {
-  auto* kind = dynamic_cast<Kind*>(&control);
-  return kind == nullptr ? nullptr : maker(*kind, context, parent);
-}
-
-constexpr std::array<Maker, 17> kMakers{
-    choose<forms::Label, makeLabelView>,
-    choose<forms::Image, makeImageView>,
-    choose<forms::TextBox, makeTextBoxView>,
-    make<forms::CommandButton, CommandButtonView>,
-    make<forms::Frame, FrameView>,
-    make<forms::OptionButton, OptionView>,
-    make<forms::DropDownList, ComboView>,
-    make<forms::EditableCombo, ComboView>,
-    make<forms::ListBox, ListBoxView>,
-    make<forms::TreeView, TreeViewView>,
-    make<forms::ProgressBar, ProgressBarView>,
-    make<forms::TabStrip, TabStripView>,
-    make<forms::TabControl, TabControlView>,
-    make<forms::PictureBox, PictureBoxView>,
-    make<forms::Shape, ShapeView>,
-    make<forms::WebBrowser, WebBrowserView>,
-    make<forms::Timer, TimerView>,
+constexpr std::array<Views::Maker, 17> kMakers{
+    Views::makeChosen<forms::Label, makeLabelView>,
+    Views::makeChosen<forms::Image, makeImageView>,
+    Views::makeChosen<forms::TextBox, makeTextBoxView>,
+    Views::make<forms::CommandButton, CommandButtonView>,
+    Views::make<forms::Frame, FrameView>,
+    Views::make<forms::OptionButton, OptionView>,
+    Views::make<forms::DropDownList, ComboView>,
+    Views::make<forms::EditableCombo, ComboView>,
+    Views::make<forms::ListBox, ListBoxView>,
+    Views::make<forms::TreeView, TreeViewView>,
+    Views::make<forms::ProgressBar, ProgressBarView>,
+    Views::make<forms::TabStrip, TabStripView>,
+    Views::make<forms::TabControl, TabControlView>,
+    Views::make<forms::PictureBox, PictureBoxView>,
+    Views::make<forms::Shape, ShapeView>,
+    Views::make<forms::WebBrowser, WebBrowserView>,
+    Views::make<forms::Timer, TimerView>,
 };
 
 }  // namespace
 
 std::unique_ptr<ControlView> makeView(forms::Control& control, ViewContext& context, HWND parent) {
-  for (const Maker maker : kMakers) {
-    if (auto view = maker(control, context, parent)) return view;
-  }
-  return nullptr;
+  return Views::makeFirst(kMakers, control, context, parent);
 }
 
 }  // namespace windows

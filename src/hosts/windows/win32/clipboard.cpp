@@ -15,10 +15,13 @@ void copyText(HWND owner, const std::string& text) {
   const std::wstring written = wide(lines);
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (written.size() + 1) * sizeof(wchar_t));
   if (memory == nullptr) return;
-  std::copy_n(written.c_str(), written.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
-  GlobalUnlock(memory);
+  auto* letters = static_cast<wchar_t*>(GlobalLock(memory));
+  if (letters != nullptr) {
+    std::copy_n(written.c_str(), written.size() + 1, letters);
+    GlobalUnlock(memory);
+  }
   bool given = false;
-  if (OpenClipboard(owner) != FALSE) {
+  if (letters != nullptr && OpenClipboard(owner) != FALSE) {
     EmptyClipboard();
     given = SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
     CloseClipboard();
