@@ -1,5 +1,7 @@
 #include "chart_sheet.h"
 
+#include <QTextOption>
+
 #include "golden_file.h"
 #include "motor/drawing/fonts.h"
 
@@ -44,7 +46,8 @@ void ChartSheet::add(const QString& caption, const std::function<void(QPainter&,
   const QRectF words = captions_ == Captions::left
                            ? QRectF(cell.left() - captionRoom_, cell.top(), captionRoom_ - kGap, cell.height())
                            : QRectF(cell.left(), cell.top() - captionRoom_, cell.width(), captionRoom_);
-  painter.drawText(words, captions_ == Captions::left ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter, caption);
+  const QTextOption alignment(captions_ == Captions::left ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);
+  painter.drawText(words, caption, alignment);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.save();
   paint(painter, cell);

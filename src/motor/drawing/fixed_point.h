@@ -9,11 +9,20 @@ using Fixed = std::int64_t;
 inline constexpr int kFixedBits = 16;
 inline constexpr Fixed kOne = Fixed{1} << kFixedBits;
 
-// The nearest step below a number. What is farther than any picture reaches is to be cut off before.
+// A number's steps, the last one that it reaches counted from zero. What is farther than any picture reaches is to be
+// cut off before.
 [[nodiscard]] inline Fixed toFixed(double pixels) { return static_cast<Fixed>(pixels * static_cast<double>(kOne)); }
 // The pixel that a coordinate lies in, rounded down.
 [[nodiscard]] constexpr int wholePixels(Fixed at) { return static_cast<int>(at >> kFixedBits); }
 [[nodiscard]] constexpr Fixed product(Fixed a, Fixed b) { return (a * b) >> kFixedBits; }
+
+// What counts once for every pixel of a wide picture has steps so fine that their rounding adds up to nothing.
+inline constexpr int kFineBits = 32;
+[[nodiscard]] inline Fixed toFine(double number) {
+  return static_cast<Fixed>(number * static_cast<double>(Fixed{1} << kFineBits));
+}
+[[nodiscard]] constexpr Fixed fromFine(Fixed fine) { return fine >> (kFineBits - kFixedBits); }
+[[nodiscard]] constexpr Fixed productWithFine(Fixed a, Fixed fine) { return (a * fine) >> kFineBits; }
 
 // A part of one as a part of 255.
 [[nodiscard]] constexpr unsigned toCover(Fixed share) {

