@@ -7,6 +7,8 @@
 
 // The atlas on Windows. The study lies in the folder of the executable.
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+  // A file on a disc that was taken out is missing: the program says so, not a box of the system's.
+  SetErrorMode(SEM_FAILCRITICALERRORS);
   try {
     windows::WindowsProgram program(windows::executableFolder());
     program.run();

@@ -95,10 +95,12 @@ void FormWindow::syncForm(forms::Property property) {
   }
 }
 
+// A palette that is seen already stays where its user has put it.
 void FormWindow::show() {
+  const bool wasSeen = IsWindowVisible(handle()) != FALSE;
   ShowWindow(handle(), look_ == screen::FormLook::palette ? SW_SHOWNA : SW_SHOW);
   if (look_ == screen::FormLook::palette) {
-    keepOnScreen();
+    if (!wasSeen) keepOnScreen();
   } else {
     SetForegroundWindow(handle());
   }
@@ -110,7 +112,8 @@ void FormWindow::hide() { ShowWindow(handle(), SW_HIDE); }
 void FormWindow::leave() {
   ShowWindow(handle(), SW_HIDE);
   for (const UINT_PTR clock : {kPopUpClock, kInputClock}) KillTimer(handle(), clock);
-  WinHelpW(handle(), nullptr, HELP_QUIT, 0);  // the help viewer that it may have opened closes
+  // The help goes with the working window, whose buttons open it; the other windows leave it to its reader.
+  if (look_ == screen::FormLook::window) WinHelpW(handle(), nullptr, HELP_QUIT, 0);
   SetWindowTextW(handle(), L"");
   SetWindowLongPtrW(handle(), GWLP_USERDATA, 0);
 }

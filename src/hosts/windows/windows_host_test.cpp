@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "hosts/windows/ports/native_messages.h"
+#include "hosts/windows/test_help_viewer.h"
 #include "hosts/windows/test_program.h"
 #include "hosts/windows/win32/window_class.h"
 #include "hosts/windows/win32/window_text.h"
@@ -92,6 +93,21 @@ TEST_F(Host, ClosesAnOpenListOfTheSelectorByEscapeAndThenTheSelector) {
   EXPECT_FALSE(program.selector.isLoaded());
 }
 
+TEST_F(Host, BringsAPaletteOntoTheScreenWhenItAppearsButNotFromWhereItsUserPutsIt) {
+  const auto leftOfSelector = [this] {
+    RECT place{};
+    GetWindowRect(program.window(program.selector), &place);
+    return place.left;
+  };
+  constexpr int kBeyondTheEdge = -40;
+  SetWindowPos(program.window(program.selector), nullptr, kBeyondTheEdge, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  program.selector.show();
+  EXPECT_EQ(leftOfSelector(), kBeyondTheEdge);
+  program.selector.hide();
+  program.selector.show();
+  EXPECT_GE(leftOfSelector(), 0);
+}
+
 TEST_F(Host, ClosesAtOnceWhenTheSessionEndsAndAsksNothing) {
   SendMessageW(program.window(program.form), WM_ENDSESSION, FALSE, 0);
   EXPECT_EQ(program.take(), Words{}) << "somebody has stopped it";
@@ -111,39 +127,12 @@ TEST_F(Host, LeavesACallUnderWayToTheSystemWhenTheSessionEnds) {
   EXPECT_TRUE(program.host.sessionEnds());
 }
 
-// Stands for the system's help viewer; notes the commands that it is given.
-class HelpViewer {
- public:
-  static constexpr const wchar_t* kClass = L"MS_WINHELP";  // by which the system finds it
-  HelpViewer()
-      : window_(CreateWindowExW(0, registered({.name = kClass, .receive = receive}), L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                                nullptr, GetModuleHandleW(nullptr), nullptr)) {
-    commands.clear();
-  }
-  ~HelpViewer() {
-    window_.reset();
-    UnregisterClassW(kClass, GetModuleHandleW(nullptr));
-  }
-  HelpViewer(const HelpViewer&) = delete;
-  HelpViewer& operator=(const HelpViewer&) = delete;
-
-  static inline std::vector<WORD> commands;
-
- private:
-  static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM sender, LPARAM data) {
-    if (message != WM_COPYDATA) return DefWindowProcW(window, message, sender, data);
-    constexpr int kCommand = 1;  // behind the size
-    commands.push_back(static_cast<const WORD*>(reinterpret_cast<const COPYDATASTRUCT*>(data)->lpData)[kCommand]);
-    return TRUE;
-  }
-
-  WindowHandle window_;
-};
-
-TEST_F(Host, LetsGoOfTheHelpWhenAFormCloses) {
-  const HelpViewer viewer;
+TEST_F(Host, LetsGoOfTheHelpWhenTheWorkingWindowCloses) {
+  const testing::HelpViewer viewer;
+  program.selector.unload();
+  EXPECT_TRUE(viewer.commands().empty()) << "who reads goes on reading";
   program.form.unload();
-  EXPECT_EQ(HelpViewer::commands, std::vector<WORD>{HELP_QUIT});
+  EXPECT_EQ(viewer.commands(), std::vector<unsigned>{HELP_QUIT});
 }
 
 // The engine ends outside any call, while a box of its own has disabled the working window.

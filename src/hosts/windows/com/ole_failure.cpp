@@ -23,6 +23,7 @@ struct Known {
 
 constexpr HRESULT kServerUnavailable = static_cast<HRESULT>(0x800706BA);
 constexpr HRESULT kCallFailed = static_cast<HRESULT>(0x800706BE);
+constexpr HRESULT kCallNotMade = static_cast<HRESULT>(0x800706BF);  // it failed before the other side had it
 
 // Those with the number 0 keep their own.
 constexpr std::array kKnown{
@@ -41,6 +42,7 @@ constexpr std::array kKnown{
     Known{CO_E_SERVER_EXEC_FAILURE, 429, "El componente ActiveX no puede crear el objeto."},
     Known{kServerUnavailable, 462, "El motor de mapas no existe o no está disponible.", true},
     Known{kCallFailed, 0, "El motor de mapas ha dejado de funcionar.", true},
+    Known{kCallNotMade, 0, "El motor de mapas ha dejado de funcionar.", true},
     Known{RPC_E_SERVER_DIED, 0, "El motor de mapas ha dejado de funcionar.", true},
     Known{RPC_E_SERVER_DIED_DNE, 0, "El motor de mapas ha dejado de funcionar.", true},
     Known{RPC_E_DISCONNECTED, 0, "El motor de mapas se ha desconectado.", true},

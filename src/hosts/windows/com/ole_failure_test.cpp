@@ -14,6 +14,15 @@ TEST(OleFailure, KnowsTheNumbersOfThePrograms) {
   EXPECT_EQ(failureOf(static_cast<HRESULT>(0x8004ABCD)).number(), static_cast<int>(0x8004ABCD));
 }
 
+TEST(OleFailure, TellsAnEngineThatIsGoneFromOneThatRefuses) {
+  for (const unsigned gone : {0x800706BAU, 0x800706BEU, 0x800706BFU, 0x80010007U, 0x80010012U, 0x80010108U}) {
+    EXPECT_TRUE(saysItIsGone(failureOf(static_cast<HRESULT>(gone)).number())) << std::hex << gone;
+  }
+  for (const HRESULT there : {DISP_E_EXCEPTION, DISP_E_UNKNOWNNAME, RPC_E_SERVERFAULT, RPC_E_CALL_CANCELED}) {
+    EXPECT_FALSE(saysItIsGone(failureOf(there).number())) << std::hex << there;
+  }
+}
+
 TEST(OleFailure, PrefersWhatTheOtherSideSaid) {
   EXPECT_EQ(failureOf(DISP_E_EXCEPTION, "Tabla desconocida").description(), "Tabla desconocida");
   EXPECT_EQ(failureOf(DISP_E_EXCEPTION).description(), "El motor de mapas ha rechazado la instrucción.");

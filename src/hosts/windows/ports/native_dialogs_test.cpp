@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "hosts/windows/ports/test_box_user.h"
+#include "hosts/windows/test_help_viewer.h"
 #include "hosts/windows/test_program.h"
 #include "hosts/windows/win32/wide_text.h"
 #include "hosts/windows/win32/window_text.h"
@@ -135,75 +136,22 @@ TEST_F(SaveDialog, LiesInFrontOfTheProgramWhichTakesNoInputMeanwhile) {
   EXPECT_TRUE(IsWindowEnabled(other));
 }
 
-// What a help viewer was told, and how often.
-struct Told {
-  int times = 0;
-  unsigned command = 0;
-  std::string file;
-  HWND by = nullptr;
-};
-
-// Stands for the system's help viewer, which is told by a message what to show.
-class HelpViewer {
- public:
-  HelpViewer() {
-    WNDCLASSW viewer{};
-    viewer.lpfnWndProc = receive;
-    viewer.hInstance = GetModuleHandleW(nullptr);
-    viewer.lpszClassName = L"MS_WINHELP";
-    RegisterClassW(&viewer);
-    window_.reset(CreateWindowExW(0, viewer.lpszClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                                  viewer.hInstance, nullptr));
-    told_ = {};
-  }
-  ~HelpViewer() {
-    window_.reset();
-    UnregisterClassW(L"MS_WINHELP", GetModuleHandleW(nullptr));
-  }
-  HelpViewer(const HelpViewer&) = delete;
-  HelpViewer& operator=(const HelpViewer&) = delete;
-
-  [[nodiscard]] static const Told& told() { return told_; }
-
- private:
-  // What comes with the message; the file's name lies behind it, in the machine's code page.
-  struct Wish {
-    WORD size;
-    WORD command;
-    LONG data;
-    LONG reserved;
-    WORD placeOfFile;
-    WORD placeOfData;
-  };
-
-  static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM sender, LPARAM data) {
-    if (message != WM_COPYDATA) return DefWindowProcW(window, message, sender, data);
-    const auto* bytes = static_cast<const char*>(reinterpret_cast<const COPYDATASTRUCT*>(data)->lpData);
-    const auto* wish = reinterpret_cast<const Wish*>(bytes);
-    told_ = {told_.times + 1, wish->command, fromAnsi(bytes + wish->placeOfFile), reinterpret_cast<HWND>(sender)};
-    return TRUE;
-  }
-
-  static inline Told told_;
-  WindowHandle window_;
-};
-
 class Help : public ::testing::Test {
  protected:
   Folder folder;
   testing::Program program;
   NativeDialogs dialogs{program.host};
-  HelpViewer viewer;
+  testing::HelpViewer viewer;
 };
 
 TEST_F(Help, ShowsTheContentsOfTheHelpFile) {
   constexpr int kContents = 3;
   folder.write("Ayuda ñ.hlp");
   dialogs.help(folder.at("Ayuda ñ.hlp"), kContents);
-  EXPECT_EQ(HelpViewer::told().times, 1);
-  EXPECT_EQ(HelpViewer::told().command, 3U);
-  EXPECT_EQ(HelpViewer::told().file, folder.at("Ayuda ñ.hlp"));
-  EXPECT_EQ(HelpViewer::told().by, program.host.frontWindow());
+  ASSERT_EQ(viewer.told().size(), 1U);
+  EXPECT_EQ(viewer.told().front().command, 3U);
+  EXPECT_EQ(viewer.told().front().file, folder.at("Ayuda ñ.hlp"));
+  EXPECT_EQ(viewer.told().front().by, program.host.frontWindow());
 }
 
 TEST_F(Help, FailsWhereThereIsNone) {
@@ -216,7 +164,7 @@ TEST_F(Help, FailsWhereThereIsNone) {
       EXPECT_EQ(failure.number(), failures::kFileNotFound) << name;
     }
   }
-  EXPECT_EQ(HelpViewer::told().times, 0);
+  EXPECT_TRUE(viewer.told().empty());
 }
 
 // While it lives, pages are shown by the program that stands for all outside ones and lies beside this one: it writes
@@ -275,7 +223,7 @@ TEST_F(Help, IsAPageInTheBrowserWhereOnlyThatIsThere) {
   dialogs.help(folder.at("Ayuda ñ.HLP"), 3);
   const std::string started = PageViewer::started();
   EXPECT_TRUE(started.ends_with(" \"" + folder.at("Ayuda ñ.html") + "\"")) << started;
-  EXPECT_EQ(HelpViewer::told().times, 0);
+  EXPECT_TRUE(viewer.told().empty());
 }
 
 }  // namespace

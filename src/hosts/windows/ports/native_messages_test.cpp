@@ -107,6 +107,11 @@ TEST_F(MessageBoxes, HaveTheIconAndTheButtonsOfTheirStyle) {
   }
 }
 
+TEST_F(MessageBoxes, HaveNoTitleWhereTheyAreGivenNone) {
+  show("MapInfo Proviewer no esta Instalado correctamente.", platform::kExclamation, "", IDOK);
+  EXPECT_EQ(seen.title, "");
+}
+
 TEST_F(MessageBoxes, GiveTheButtonThatWasPressed) {
   constexpr int kAsk = platform::kYesNo | platform::kQuestion;
   EXPECT_EQ(show("¿Desea continuar?", kAsk, "", IDYES), Button::yes);
