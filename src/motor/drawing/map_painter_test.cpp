@@ -114,6 +114,23 @@ TEST(MapPainter, DrawsTheCosmeticLayerAboveAllOthers) {
 }
 
 // A smooth edge painted twice is darker than one painted once.
+// Plain regions are painted by another hand than hatched ones, lines and points.
+TEST(MapPainter, PaintsTheObjectsOfALayerInTheirOrder) {
+  const auto plain = [](const Brush& brush, double from, double to) {
+    return small::region({small::square(from, from, to, to)}, brush);
+  };
+  const Brush hatched{3, small::kGreen, small::kGreen};
+  const QImage image =
+      painted({small::layer({plain(kRedFill, 5, 60), plain(hatched, 20, 70), plain(kBlueFill, 40, 80),
+                             small::line({{0, 75}, {100, 75}}, Pen{5, 2, small::kRed}), plain(kBlueFill, 70, 78)})});
+  EXPECT_EQ(at(image, 10, 10), kRedPixel);
+  EXPECT_EQ(at(image, 30, 30), kGreenPixel);
+  EXPECT_EQ(at(image, 50, 50), kBluePixel);
+  EXPECT_EQ(at(image, 90, 75), kRedPixel);
+  EXPECT_EQ(at(image, 74, 75), kBluePixel);
+  EXPECT_EQ(at(image, 60, 75), kRedPixel);
+}
+
 TEST(MapPainter, PaintsAnObjectThatManyRowsShareOnce) {
   const std::vector<small::Ring> triangle{{{10, 13}, {83, 21}, {47, 90}, {10, 13}}};
   const auto object = [&] { return small::region(triangle, small::kNoBrush, Pen{1, 2, 0}); };

@@ -25,9 +25,9 @@ struct SimplifiedShape {
 // The level whose grid is between a quarter and half of a device pixel, where numbers go that far.
 [[nodiscard]] int simplificationLevel(double unitsPerDevicePixel);
 
-// The shape of an object on a level's grid (2 to the power `level` map units wide, wider where
-// its coordinates need it). Parts that shrink to one point and points that are nowhere (not finite, or farther than any
-// map reaches) are left out.
+// The shape of an object on a level's grid (2 to the power `level` map units wide, wider where its coordinates need
+// it). Parts that shrink to one point and points that are nowhere (not finite, or farther than any map reaches) are
+// left out.
 [[nodiscard]] SimplifiedShape simplify(const MapObject& object, int level);
 
 // Keeps the simplified shapes of the zoom levels that were used last.

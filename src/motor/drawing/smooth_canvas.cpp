@@ -15,8 +15,9 @@ namespace {
 
 constexpr unsigned kWhole = 255;
 constexpr int kBandRows = 48;
-constexpr double kSoftEdge = 1;             // pixels that a border may touch beyond its width
-constexpr std::size_t kManyPoints = 2'000;  // from which on other cores are worth waking
+constexpr double kSoftEdge = 1;                 // pixels that a border may touch beyond its width
+constexpr std::size_t kManyPoints = 2'000;      // from which on other cores are worth waking
+constexpr std::size_t kMostPoints = 1'000'000;  // that wait
 
 bool isPlain(const QPainter& painter) {
   const QTransform& transform = painter.deviceTransform();
@@ -97,6 +98,7 @@ void SmoothCanvas::add(const std::vector<QPolygonF>& rings, const Style& style) 
   const bool isSomewhere = lowest.x() <= highest.x();
   const QRect pixels = isSomewhere ? pixelsAround(lowest, highest, margin) & picture_ : QRect();
   shapes_.push_back({ringEnds_.size(), pixels, style});
+  if (points_.size() >= kMostPoints) paint();
 }
 
 void SmoothCanvas::paint() {

@@ -23,7 +23,7 @@ class SmoothCanvas {
   struct Style {
     std::optional<QRgb> fill = {};
     std::optional<QRgb> border = {};
-    double borderWidth = 1;  // logical pixels
+    double borderWidth = 1;  // logical pixels, a device pixel at least
   };
 
   // The canvas of a painter's picture, good as long as the painter's transformation and clipping stay as they are. None
@@ -31,7 +31,8 @@ class SmoothCanvas {
   // turned, clipped or translucent, or without smooth edges.
   [[nodiscard]] static std::optional<SmoothCanvas> of(QPainter& painter);
 
-  // Adds closed rings, inside by the even-odd rule, in the painter's logical pixels.
+  // Adds rings, inside by the even-odd rule, in the painter's logical pixels; one that ends elsewhere than it begins is
+  // closed. Where very much waits already, that is painted now.
   void add(const std::vector<QPolygonF>& rings, const Style& style);
   // Paints what was added, the first at the bottom. To be called before the painter itself paints on.
   void paint();

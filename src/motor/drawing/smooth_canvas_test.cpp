@@ -16,8 +16,8 @@ constexpr QSize kSize(160, 120);
 constexpr QRgb kOchre = 0xFFC08030;
 constexpr QRgb kInk = 0xFF203040;
 
-QImage whitePicture(double devicePixelRatio = 1) {
-  QImage picture((QSizeF(kSize) * devicePixelRatio).toSize(), QImage::Format_RGB32);
+QImage whitePicture(double devicePixelRatio = 1, QSize size = kSize) {
+  QImage picture((QSizeF(size) * devicePixelRatio).toSize(), QImage::Format_RGB32);
   picture.setDevicePixelRatio(devicePixelRatio);
   picture.fill(Qt::white);
   return picture;
@@ -30,7 +30,10 @@ std::vector<QPolygonF> anyRings(unsigned seed) {
   std::uniform_real_distribution<double> y(-60, kSize.height() + 60);
   std::vector<QPolygonF> rings(1 + seed % 3);
   for (QPolygonF& ring : rings) {
-    for (int i = 0; i < 3 + static_cast<int>(seed % 9); ++i) ring << QPointF(x(numbers), y(numbers));
+    for (int i = 0; i < 3 + static_cast<int>(seed % 9); ++i) {
+      const double left = x(numbers);  // before the other: compilers take arguments in different orders
+      ring << QPointF(left, y(numbers));
+    }
     ring << ring.front();
   }
   return rings;
@@ -47,8 +50,9 @@ QPolygonF roundRing(QPointF middle, double radius) {
   return ring;
 }
 
-QImage paintedByCanvas(const std::vector<QPolygonF>& rings, const SmoothCanvas::Style& style, double ratio = 1) {
-  QImage picture = whitePicture(ratio);
+QImage paintedByCanvas(const std::vector<QPolygonF>& rings, const SmoothCanvas::Style& style, double ratio = 1,
+                       QSize size = kSize) {
+  QImage picture = whitePicture(ratio, size);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   std::optional<SmoothCanvas> canvas = SmoothCanvas::of(painter);
@@ -101,17 +105,22 @@ Difference differenceOf(const QImage& a, const QImage& b) {
 }
 
 TEST(SmoothCanvas, FillsAsThePainterDoes) {
+  double sumOfMeans = 0;
+  int pictures = 0;
   for (unsigned seed = 0; seed < 60; ++seed) {
     const std::vector<QPolygonF> rings = anyRings(seed);
-    for (const double ratio : {1.0, 1.5, 2.0}) {
+    for (const double ratio : {1.0, 1.25, 1.5, 3.0}) {
       const SmoothCanvas::Style style{.fill = kOchre};
       const Difference difference =
           differenceOf(paintedByCanvas(rings, style, ratio), paintedByPainter(rings, style, ratio, 1));
       // Where edges cross in a pixel, both add up what they cover on either side.
       EXPECT_LE(difference.most, 12) << "seed " << seed << ", ratio " << ratio;
-      EXPECT_LE(difference.mean, 1) << "seed " << seed << ", ratio " << ratio;
+      EXPECT_LE(difference.mean, 1.5) << "seed " << seed << ", ratio " << ratio;  // of slivers, which are all edge
+      sumOfMeans += difference.mean;
+      ++pictures;
     }
   }
+  EXPECT_LE(sumOfMeans / pictures, 0.1);
 }
 
 TEST(SmoothCanvas, BordersAsThePainterDoes) {
@@ -197,6 +206,9 @@ TEST(SmoothCanvas, LeavesAllElseToThePainter) {
   painter.setClipRect(QRect(0, 0, 20, 20));
   EXPECT_FALSE(SmoothCanvas::of(painter)) << "clipped";
   painter.restore();
+  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+  EXPECT_FALSE(SmoothCanvas::of(painter)) << "mixed otherwise";
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter.setOpacity(0.5);
   EXPECT_FALSE(SmoothCanvas::of(painter)) << "translucent";
   QImage withAlpha(kSize, QImage::Format_ARGB32_Premultiplied);
@@ -209,21 +221,76 @@ TEST(SmoothCanvas, LeavesAllElseToThePainter) {
   EXPECT_FALSE(SmoothCanvas::of(onVectors));
 }
 
-TEST(SmoothCanvas, TakesShapesThatAreNowhereOrHuge) {
-  const double far = 1e6;
-  const std::vector<std::vector<QPolygonF>> shapes = {{},
-                                                      {QPolygonF()},
-                                                      {QPolygonF(1)},
-                                                      {QPolygonF(2)},
-                                                      {QPolygonF({{5, 5}, {90, 5}, {5, 5}})},
-                                                      {QPolygonF(QRectF(-far, -far, far / 2, far / 2))},
-                                                      {QPolygonF(QRectF(-far, -far, 2 * far, 2 * far))},
-                                                      {QPolygonF({{-far, 3}, {far, 4}, {far, 5}, {-far, 3}})}};
-  for (const auto& rings : shapes) {
-    const SmoothCanvas::Style style{.fill = kOchre, .border = kInk, .borderWidth = 2};
-    (void)paintedByCanvas(rings, style);
+TEST(SmoothCanvas, PaintsAtOnceWhereTooMuchWouldWait) {
+  QImage picture = whitePicture();
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  std::optional<SmoothCanvas> canvas = SmoothCanvas::of(painter);
+  ASSERT_TRUE(canvas);
+  const std::vector<QPolygonF> squares(100'000, QPolygonF(QRectF(10, 10, 5, 5)));
+  for (int i = 0; i < 4; ++i) {
+    canvas->add(squares, {.border = kInk, .borderWidth = 2});
+    canvas->add({QPolygonF(QRectF(40, 40, 20, 20))}, {.fill = kOchre});
   }
-  EXPECT_EQ(paintedByCanvas(shapes[6], {.fill = kOchre}).pixel(80, 60), kOchre);
+  EXPECT_EQ(picture.pixel(50, 50), kOchre);
+}
+
+// A single edge from one end of a wide picture to the other: rounding must not add up on the way.
+TEST(SmoothCanvas, LongEdgesAreExactToTheirEnds) {
+  constexpr int kWidth = 20'000;
+  constexpr int kStep = 97;
+  for (const double drop : {0.3, 1.0, 10.0, 60.0}) {
+    const std::vector<QPolygonF> rings = {
+        QPolygonF({{-10, 20}, {kWidth + 10, 20 + drop}, {kWidth + 10, 95}, {-10, 95}, {-10, 20}})};
+    const auto edgeAt = [&](double x) { return 20 + drop * (x + 10) / (kWidth + 20); };
+    const QImage filled = paintedByCanvas(rings, {.fill = qRgb(0, 0, 0)}, 1, {kWidth, 100});
+    const QImage bordered = paintedByCanvas(rings, {.border = qRgb(0, 0, 0), .borderWidth = 2}, 1, {kWidth, 100});
+    for (int x = 0; x < kWidth; x += kStep) {
+      const double edge = edgeAt(x + 0.5);
+      const int row = static_cast<int>(edge);
+      const double above = std::max(0.0, edge - row);
+      EXPECT_NEAR(qRed(filled.pixel(x, row)), 255 * above, 2) << drop << ' ' << x;
+      const double covered = std::clamp(1.5 - std::fabs(row - 1 + 0.5 - edge), 0.0, 1.0);
+      EXPECT_NEAR(qRed(bordered.pixel(x, row - 1)), 255 * (1 - covered), 2) << drop << ' ' << x;
+    }
+  }
+}
+
+TEST(SmoothCanvas, TakesShapesThatAreNowhere) {
+  const SmoothCanvas::Style style{.fill = kOchre, .border = kInk, .borderWidth = 2};
+  const std::vector<std::vector<QPolygonF>> shapes = {
+      {}, {QPolygonF()}, {QPolygonF(1)}, {QPolygonF(2)}, {QPolygonF(), QPolygonF(1)}};
+  for (const auto& rings : shapes) EXPECT_EQ(paintedByCanvas(rings, style), whitePicture());
+}
+
+TEST(SmoothCanvas, TakesShapesThatAreFarOrHuge) {
+  const SmoothCanvas::Style style{.fill = kOchre, .border = kInk, .borderWidth = 2};
+  for (const double far : {1e4, 1e6, 1e12, 1e60}) {
+    EXPECT_EQ(paintedByCanvas({QPolygonF(QRectF(-far, -far, far / 2, far / 2))}, style), whitePicture()) << far;
+    QImage allOver = whitePicture();
+    allOver.fill(kOchre);
+    EXPECT_EQ(paintedByCanvas({QPolygonF(QRectF(-far, -far, 2 * far, 2 * far))}, style), allOver) << far;
+    const QImage half = paintedByCanvas({QPolygonF({{-far, 30}, {far, 30}, {far, far}, {-far, far}})}, style);
+    EXPECT_EQ(half.pixel(80, 28), 0xFFFFFFFF) << far;
+    EXPECT_EQ(half.pixel(80, 30), kInk) << far;
+    EXPECT_EQ(half.pixel(80, 60), kOchre) << far;
+  }
+}
+
+TEST(SmoothCanvas, AShapeWithoutAnInsideHasItsBorder) {
+  const QImage line =
+      paintedByCanvas({QPolygonF({{5, 5}, {90, 5}, {5, 5}})}, {.fill = kOchre, .border = kInk, .borderWidth = 2});
+  EXPECT_EQ(line.pixel(40, 4), kInk);
+  EXPECT_EQ(line.pixel(40, 8), 0xFFFFFFFF);
+}
+
+TEST(SmoothCanvas, PicturesMayBeAsSmallAsAPixel) {
+  const std::vector<QPolygonF> rings = {QPolygonF(QRectF(-50, -50, 30'000, 30'000))};
+  for (const QSize size : {QSize(1, 1), QSize(1, 500), QSize(500, 1), QSize(20'000, 3)}) {
+    QImage allOver = whitePicture(1, size);
+    allOver.fill(kOchre);
+    EXPECT_EQ(paintedByCanvas(rings, {.fill = kOchre, .border = kInk}, 1, size), allOver);
+  }
 }
 
 }  // namespace
