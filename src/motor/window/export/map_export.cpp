@@ -24,13 +24,18 @@ constexpr double kScaleBarInset = 8;
 void paintSheet(QPainter& painter, const Map& map, QSize size, double fineness) {
   const QRectF sheet(QPointF(0, 0), QSizeF(size));
   painter.fillRect(sheet, Qt::white);
-  painter.setClipRect(sheet);
   const ScaleBar bar = scaleBarFor(map.zoomMetres / size.width(), kScaleBarPixels);
   const QPointF corner(kScaleBarInset, size.height() - kScaleBarInset);
   MapPainter mapPainter;
   mapPainter.keepLabelsOff({scaleBarPlate(bar, corner)});
   mapPainter.paint(painter, map, size, fineness, Quality::best);
   paintScaleBar(painter, bar, corner);
+}
+
+// On what keeps shapes, those that reach beyond the sheet are to end there.
+void paintClipped(QPainter& painter, const Map& map, QSize size) {
+  painter.setClipRect(QRect(QPoint(0, 0), size));
+  paintSheet(painter, map, size, kShapeFineness);
 }
 
 }  // namespace
@@ -63,7 +68,7 @@ QByteArray mapAsSvg(const Map& map, QSize size) {
   generator.setViewBox(QRect(QPoint(0, 0), size));
   generator.setResolution(kDotsPerInch);
   QPainter painter(&generator);
-  paintSheet(painter, map, size, kShapeFineness);
+  paintClipped(painter, map, size);
   painter.end();
   return file.data();
 }
@@ -79,7 +84,7 @@ QByteArray mapAsPdf(const Map& map, QSize size) {
   writer.setPageMargins(QMarginsF(0, 0, 0, 0));
   QPainter painter(&writer);
   painter.scale(kShapeFineness, kShapeFineness);
-  paintSheet(painter, map, size, kShapeFineness);
+  paintClipped(painter, map, size);
   painter.end();
   return file.data();
 }
