@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace motor {
@@ -9,8 +10,12 @@ using Fixed = std::int64_t;
 inline constexpr int kFixedBits = 16;
 inline constexpr Fixed kOne = Fixed{1} << kFixedBits;
 
-// A number's steps, the last one that it reaches counted from zero. What is farther than any picture reaches is to be
-// cut off before.
+// What is farther than any picture reaches, as far as steps do: pixels, or pixels in a row.
+[[nodiscard]] inline double withinReach(double pixels) {
+  constexpr double kFarthest = 1e7;
+  return std::clamp(pixels, -kFarthest, kFarthest);
+}
+// A number's steps, the last one that it reaches counted from zero. The number is within reach.
 [[nodiscard]] inline Fixed toFixed(double pixels) { return static_cast<Fixed>(pixels * static_cast<double>(kOne)); }
 // The pixel that a coordinate lies in, rounded down.
 [[nodiscard]] constexpr int wholePixels(Fixed at) { return static_cast<int>(at >> kFixedBits); }

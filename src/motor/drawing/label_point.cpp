@@ -7,6 +7,8 @@
 #include <numbers>
 #include <queue>
 
+#include "motor/tables/edge.h"
+
 namespace motor {
 
 namespace {
@@ -14,28 +16,25 @@ namespace {
 constexpr double kMostSquares = 32;  // along the longer side, at the start
 constexpr int kMostSteps = 4000;     // far more than any region needs
 
-double squaredDistance(QPointF p, QPointF a, QPointF b) {
-  const QPointF d = b - a;
-  const double length = QPointF::dotProduct(d, d);
-  const double t = length > 0 ? std::clamp(QPointF::dotProduct(p - a, d) / length, 0.0, 1.0) : 0;
-  const QPointF apart = p - (a + d * t);
-  return QPointF::dotProduct(apart, apart);
+Point toPoint(QPointF p) { return {p.x(), p.y()}; }
+
+// Calls `visit` with each edge of the rings.
+template <typename Visit>
+void forRingEdges(const std::vector<QPolygonF>& rings, const Visit& visit) {
+  for (const QPolygonF& ring : rings) {
+    for (qsizetype i = 1; i < ring.size(); ++i) visit(Edge{toPoint(ring[i - 1]), toPoint(ring[i])});
+  }
 }
 
 // The distance to the outline, negative outside.
-double signedDistance(const std::vector<QPolygonF>& rings, QPointF p) {
+double signedDistance(const std::vector<QPolygonF>& rings, QPointF at) {
+  const Point p = toPoint(at);
   bool inside = false;
   double nearest = std::numeric_limits<double>::max();
-  for (const QPolygonF& ring : rings) {
-    for (qsizetype i = 1; i < ring.size(); ++i) {
-      const QPointF a = ring[i - 1];
-      const QPointF b = ring[i];
-      if ((a.y() > p.y()) != (b.y() > p.y()) && p.x() < (b.x() - a.x()) * (p.y() - a.y()) / (b.y() - a.y()) + a.x()) {
-        inside = !inside;
-      }
-      nearest = std::min(nearest, squaredDistance(p, a, b));
-    }
-  }
+  forRingEdges(rings, [&](const Edge& edge) {
+    if (edge.crosses(p.y) && p.x < edge.crossingX(p.y)) inside = !inside;
+    nearest = std::min(nearest, edge.squaredDistanceTo(p));
+  });
   return (inside ? 1 : -1) * std::sqrt(nearest);
 }
 
@@ -59,20 +58,16 @@ struct Span {
 Span spanAround(const std::vector<QPolygonF>& rings, double x, double y) {
   Span span;
   bool isInside = false;
-  for (const QPolygonF& ring : rings) {
-    for (qsizetype i = 1; i < ring.size(); ++i) {
-      const QPointF a = ring[i - 1];
-      const QPointF b = ring[i];
-      if ((a.y() > y) == (b.y() > y)) continue;
-      const double crossing = (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()) + a.x();
-      if (x < crossing) {
-        isInside = !isInside;
-        span.right = std::min(span.right, crossing);
-      } else {
-        span.left = std::max(span.left, crossing);
-      }
+  forRingEdges(rings, [&](const Edge& edge) {
+    if (!edge.crosses(y)) return;
+    const double crossing = edge.crossingX(y);
+    if (x < crossing) {
+      isInside = !isInside;
+      span.right = std::min(span.right, crossing);
+    } else {
+      span.left = std::max(span.left, crossing);
     }
-  }
+  });
   return isInside ? span : Span();
 }
 

@@ -49,10 +49,11 @@ void coverAtLeast(std::uint8_t& cover, Fixed share) {
 // not.
 void passEnd(const Grid& grid, const Piece& piece, int begin, int end) {
   const double length = QPointF::dotProduct(piece.b - piece.a, piece.way);
+  const double half = piece.halfAcross();
   for (int along = begin; along < end; ++along) {
     const double middle = piece.middleAt(along);
-    const double first = std::clamp(std::ceil(middle - piece.halfAcross()), 0.0, grid.across + 0.0);
-    const double last = std::min(middle + piece.halfAcross(), grid.across - 1.0);
+    const double first = std::clamp(std::ceil(middle - half), 0.0, grid.across + 0.0);
+    const double last = std::min(middle + half, grid.across - 1.0);
     for (int across = static_cast<int>(first); across <= last; ++across) {
       const QPointF apart = QPointF(along + 0.5, across + 0.5) - piece.a;
       const double onward = QPointF::dotProduct(apart, piece.way);
@@ -71,8 +72,7 @@ void passEnd(const Grid& grid, const Piece& piece, int begin, int end) {
 // Pixels [begin, end) along, far from the ends.
 void passMiddle(const Grid& grid, const Piece& piece, int begin, int end) {
   // Far off, a line that never comes near may be taken for one that lies a bit nearer.
-  constexpr double kFarthest = 1e7;
-  Fixed fineMiddle = toFine(std::clamp(piece.middleAt(begin), -kFarthest, kFarthest));
+  Fixed fineMiddle = toFine(withinReach(piece.middleAt(begin)));
   const Fixed fineSlope = toFine(piece.slope());
   const Fixed half = toFixed(piece.halfAcross());
   const Fixed reach = toFixed(piece.reach);

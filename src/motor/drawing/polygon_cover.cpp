@@ -7,8 +7,6 @@ namespace motor {
 
 namespace {
 
-constexpr double kFarthest = 1e7;  // pixels to the left or right; what is farther counts as being there
-
 struct Row {
   std::int32_t* changes;
   std::uint8_t* marks;
@@ -77,9 +75,9 @@ void PolygonCover::addEdge(QPointF from, QPointF to) {
   if (begin >= end) return;
   const double slope = (lower.x() - upper.x()) / (lower.y() - upper.y());
   const double first = upper.x() + (static_cast<double>(begin) / static_cast<double>(kOne) - upper.y()) * slope;
-  const Fixed perRow = toFixed(std::clamp(slope, -kFarthest, kFarthest));
-  const Fixed rise = toFine(std::min(1 / std::fabs(slope), kFarthest));
-  Fixed x = toFixed(std::clamp(first, -kFarthest, kFarthest));
+  const Fixed perRow = toFixed(withinReach(slope));
+  const Fixed rise = toFine(withinReach(1 / std::fabs(slope)));
+  Fixed x = toFixed(withinReach(first));
   const std::size_t firstPixel = static_cast<std::size_t>(wholePixels(begin)) * rowPixels_;
   Row row{changes_.data() + firstPixel, marks_.data() + firstPixel, area_.width() * kOne};
   for (Fixed y = begin; y < end;) {

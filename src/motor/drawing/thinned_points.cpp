@@ -1,8 +1,9 @@
 #include "motor/drawing/thinned_points.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
+
+#include "motor/tables/edge.h"
 
 namespace motor {
 
@@ -11,7 +12,7 @@ namespace {
 constexpr double kTolerance = 0.75;     // grid steps
 constexpr std::uint32_t kAnchors = 16;  // one of as many points is kept in any line
 constexpr std::size_t kLongest = 1024;  // points between two that are kept, which bounds the work of halving
-constexpr std::size_t kFewest = 4;      // distinct points of a ring that is thinned
+constexpr std::size_t kFewest = 4;      // points of a ring, the last of them its first again
 
 bool comesBefore(GridPoint a, GridPoint b) { return a.x != b.x ? a.x < b.x : a.y < b.y; }
 
@@ -25,18 +26,7 @@ bool isAnchor(GridPoint p, GridPoint origin) {
   return (mixed >> 13) % kAnchors == 0;
 }
 
-// The square of the distance of a point from a piece of line.
-double squaredDistance(GridPoint p, GridPoint a, GridPoint b) {
-  const double dx = static_cast<double>(b.x) - a.x;
-  const double dy = static_cast<double>(b.y) - a.y;
-  const double px = static_cast<double>(p.x) - a.x;
-  const double py = static_cast<double>(p.y) - a.y;
-  const double length = dx * dx + dy * dy;
-  const double t = length > 0 ? std::clamp((px * dx + py * dy) / length, 0.0, 1.0) : 0;
-  const double x = px - t * dx;
-  const double y = py - t * dy;
-  return x * x + y * y;
-}
+Point toPoint(GridPoint p) { return {static_cast<double>(p.x), static_cast<double>(p.y)}; }
 
 // Marks the points of a line that are kept.
 class Thinning {
@@ -63,10 +53,11 @@ class Thinning {
   // The point between two that is farthest from their line, `begin` where none is far. The same in either direction.
   [[nodiscard]] std::size_t farthestFrom(std::size_t begin, std::size_t end) const {
     const auto [a, b] = std::minmax({points_[begin], points_[end]}, comesBefore);
+    const Edge edge{toPoint(a), toPoint(b)};
     std::size_t farthest = begin;
     double most = kTolerance * kTolerance;
     for (std::size_t i = begin + 1; i < end; ++i) {
-      const double distance = squaredDistance(points_[i], a, b);
+      const double distance = edge.squaredDistanceTo(toPoint(points_[i]));
       if (distance < most || (distance == most && (farthest == begin || comesBefore(points_[farthest], points_[i]))))
         continue;
       most = distance;

@@ -4,22 +4,16 @@
 
 #include "motor/map/map.h"
 #include "motor/map/projected_objects.h"
+#include "motor/tables/edge.h"
 
 namespace motor {
 namespace {
 
-double distanceToSegment(Point a, Point b, Point p) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
-  const double square = dx * dx + dy * dy;
-  const double along = square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0;
-  return std::hypot(a.x + along * dx - p.x, a.y + along * dy - p.y);
-}
-
 bool isLineNear(const MapObject& line, Point p, double tolerance) {
   for (std::size_t part = 0; part < line.partCount(); ++part) {
     for (std::size_t i = line.parts[part]; i + 1 < line.partEnd(part); ++i) {
-      if (distanceToSegment(line.points[i], line.points[i + 1], p) <= tolerance) return true;
+      const Edge edge{line.points[i], line.points[i + 1]};
+      if (std::sqrt(edge.squaredDistanceTo(p)) <= tolerance) return true;
     }
   }
   return false;

@@ -18,6 +18,18 @@ struct Edge {
     return sideOf(p) == 0 && p.x >= std::min(a.x, b.x) && p.x <= std::max(a.x, b.x) && p.y >= std::min(a.y, b.y) &&
            p.y <= std::max(a.y, b.y);
   }
+  // The square of a point's distance from the edge itself.
+  [[nodiscard]] double squaredDistanceTo(Point p) const {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double px = p.x - a.x;
+    const double py = p.y - a.y;
+    const double squaredLength = dx * dx + dy * dy;
+    const double along = squaredLength > 0 ? std::clamp((px * dx + py * dy) / squaredLength, 0.0, 1.0) : 0;
+    const double x = px - along * dx;
+    const double y = py - along * dy;
+    return x * x + y * y;
+  }
   // Whether the horizontal line through `y` crosses the edge; its lower end belongs to it, its upper end does not.
   [[nodiscard]] bool crosses(double y) const { return (a.y > y) != (b.y > y); }
   // Where that line crosses it.
