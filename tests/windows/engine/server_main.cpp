@@ -27,21 +27,24 @@ void startNext() {
   CloseHandle(started.hProcess);
 }
 
-// The end comes with the engine, or where none was asked for in five minutes.
+// The end comes soon after that of the engine, or where none was asked for in five minutes. Not at once: the answer to
+// whoever let go of the engine is still on its way then, on another thread, and a caller who gets none is left with
+// what its system holds of the connection.
 void runMessagesWhileNeeded() {
   constexpr UINT kLook = 200;  // milliseconds between two looks where no message comes
   constexpr int kPatience = 1500;
+  constexpr int kFarewell = 5;
   SetTimer(nullptr, 0, kLook, nullptr);
   bool wasNeeded = false;
   MSG message;
-  for (int looks = 0; wasNeeded || looks < kPatience;) {
+  for (int looksLeft = kPatience; looksLeft > 0;) {
     if (GetMessageW(&message, nullptr, 0, 0) <= 0) return;
     DispatchMessageW(&message);
-    if (message.message == WM_TIMER) ++looks;
     const bool isNeeded = testengine::liveObjects() > 0;
-    if (wasNeeded && !isNeeded) return;
     if (isNeeded && !wasNeeded) startNext();
     wasNeeded = wasNeeded || isNeeded;
+    if (isNeeded) looksLeft = kFarewell;
+    if (message.message == WM_TIMER && !isNeeded) --looksLeft;
   }
 }
 
