@@ -4,23 +4,10 @@
 
 #include <cmath>
 
+#include "motor/tables/testing_regions.h"
+
 namespace motor {
 namespace {
-
-using Ring = std::vector<Point>;
-
-MapObject object(MapObject::Kind kind, const std::vector<Ring>& parts) {
-  MapObject result;
-  result.kind = kind;
-  for (const Ring& part : parts) {
-    result.parts.push_back(static_cast<std::uint32_t>(result.points.size()));
-    result.points.insert(result.points.end(), part.begin(), part.end());
-  }
-  for (const Point& p : result.points) result.bounds.add(p);
-  return result;
-}
-
-MapObject region(const std::vector<Ring>& rings) { return object(MapObject::Kind::region, rings); }
 
 Ring square(double x, double y, double side) {
   return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}, {x, y}};
@@ -49,7 +36,7 @@ TEST(RingAreaTest, hasTheSignOfTheDirection) {
 }
 
 TEST(ContainsTest, goesByTheEvenOddRule) {
-  const MapObject zone = region({square(0, 0, 10), square(2, 2, 4), square(3, 3, 1), square(20, 0, 5)});
+  const MapObject zone = regionOf({square(0, 0, 10), square(2, 2, 4), square(3, 3, 1), square(20, 0, 5)});
   struct Case {
     Point p;
     bool inside;
@@ -60,11 +47,11 @@ TEST(ContainsTest, goesByTheEvenOddRule) {
       {{-1, 10}, false}, {{5, 11}, false},    {{8, 6}, true},     {{4, 6}, true},   {{5, 5.5}, false},
   };
   for (const Case& c : cases) EXPECT_EQ(contains(zone, c.p), c.inside) << c.p.x << " " << c.p.y;
-  EXPECT_FALSE(contains(object(MapObject::Kind::polyline, {square(0, 0, 10)}), {5, 5}));
+  EXPECT_FALSE(contains(objectOf(MapObject::Kind::polyline, {square(0, 0, 10)}), {5, 5}));
 }
 
 TEST(ContainsTest, countsAVertexAtTheHeightOfThePointOnce) {
-  const MapObject diamond = region({{{0, -5}, {5, 0}, {0, 5}, {-5, 0}, {0, -5}}});
+  const MapObject diamond = regionOf({{{0, -5}, {5, 0}, {0, 5}, {-5, 0}, {0, -5}}});
   EXPECT_TRUE(contains(diamond, {-4, 0}));
   EXPECT_TRUE(contains(diamond, {4, 0}));
   EXPECT_FALSE(contains(diamond, {-6, 0}));
@@ -79,19 +66,19 @@ TEST(CentroidTest, liesInTheObject) {
     Point centroid;
   };
   const Case cases[] = {
-      {"square", region({square(0, 0, 10)}), {5, 5}},
-      {"far from the origin", region({square(500000, 4500000, 4)}), {500002, 4500002}},
-      {"the larger of two", region({square(0, 0, 2), square(100, 0, 10)}), {105, 5}},
-      {"hole aside", region({square(0, 0, 10), square(6, 3, 3)}), {(500 - 9 * 7.5) / 91, (500 - 9 * 4.5) / 91}},
-      {"hole in the middle: the left span of two alike", region({square(0, 0, 10), square(4, 4, 2)}), {2, 5}},
+      {"square", regionOf({square(0, 0, 10)}), {5, 5}},
+      {"far from the origin", regionOf({square(500000, 4500000, 4)}), {500002, 4500002}},
+      {"the larger of two", regionOf({square(0, 0, 2), square(100, 0, 10)}), {105, 5}},
+      {"hole aside", regionOf({square(0, 0, 10), square(6, 3, 3)}), {(500 - 9 * 7.5) / 91, (500 - 9 * 4.5) / 91}},
+      {"hole in the middle: the left span of two alike", regionOf({square(0, 0, 10), square(4, 4, 2)}), {2, 5}},
       {"an island in a hole counts for itself",
-       region({square(0, 0, 10), square(6, 3, 3), square(7, 4, 1)}),
+       regionOf({square(0, 0, 10), square(6, 3, 3), square(7, 4, 1)}),
        {(500 - 9 * 7.5) / 91, (500 - 9 * 4.5) / 91}},
-      {"horseshoe", region({horseshoe}), {1, 5}},
-      {"line", object(MapObject::Kind::polyline, {{{0, 0}, {3, 0}, {3, 5}}}), {3, 1}},
-      {"line of two parts", object(MapObject::Kind::polyline, {{{0, 0}, {1, 0}}, {{5, 5}, {5, 8}}}), {5, 6}},
-      {"point", object(MapObject::Kind::point, {{{7, 8}}}), {7, 8}},
-      {"region without area", region({{{1, 1}, {2, 2}, {1, 1}}}), {1, 1}},
+      {"horseshoe", regionOf({horseshoe}), {1, 5}},
+      {"line", objectOf(MapObject::Kind::polyline, {{{0, 0}, {3, 0}, {3, 5}}}), {3, 1}},
+      {"line of two parts", objectOf(MapObject::Kind::polyline, {{{0, 0}, {1, 0}}, {{5, 5}, {5, 8}}}), {5, 6}},
+      {"point", objectOf(MapObject::Kind::point, {{{7, 8}}}), {7, 8}},
+      {"region without area", regionOf({{{1, 1}, {2, 2}, {1, 1}}}), {1, 1}},
   };
   for (const Case& c : cases) {
     const Point p = centroid(c.object);

@@ -71,12 +71,19 @@ const BoxTree& ObjectSet::grownTree() const {
 }
 
 bool ObjectSet::covers(std::uint32_t index, Point p) const {
+  if (grids_.empty()) grids_.resize(objects_.size());
+  const CoverageGrid::Answer answer = grids_[index].at(p);
+  return answer == CoverageGrid::Answer::unknown ? coversExactly(index, p) : answer == CoverageGrid::Answer::inside;
+}
+
+bool ObjectSet::coversExactly(std::uint32_t index, Point p) const {
   if (regions_.empty()) regions_.resize(objects_.size());
   std::shared_ptr<const RegionIndex>& region = regions_[index];
   if (region == nullptr) {
     const MapObject& object = *objects_[index];
     if (object.kind != MapObject::Kind::region || !object.bounds.contains(p)) return false;
     region = std::make_shared<const RegionIndex>(object);
+    grids_[index] = CoverageGrid(object, *region);
   }
   return region->contains(p);
 }

@@ -8,6 +8,7 @@
 
 #include "motor/language/value.h"
 #include "motor/tables/box_tree.h"
+#include "motor/tables/coverage_grid.h"
 #include "motor/tables/region_index.h"
 #include "motor/tables/table.h"
 
@@ -48,6 +49,7 @@ class ObjectSet {
  private:
   [[nodiscard]] const BoxTree& tree() const { return tree_ ? *tree_ : grownTree(); }
   const BoxTree& grownTree() const;
+  [[nodiscard]] bool coversExactly(std::uint32_t index, Point p) const;
   void groupRows();
   void addUpBounds();
 
@@ -58,6 +60,7 @@ class ObjectSet {
   Box bounds_;
   mutable std::optional<BoxTree> tree_;                              // made when first asked
   mutable std::vector<std::shared_ptr<const RegionIndex>> regions_;  // of those asked so far
+  mutable std::vector<CoverageGrid> grids_;                          // of the same
 };
 
 }  // namespace motor

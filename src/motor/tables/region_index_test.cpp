@@ -2,43 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <numbers>
 #include <random>
+
+#include "motor/tables/testing_regions.h"
 
 namespace motor {
 namespace {
 
-MapObject regionOf(const std::vector<std::vector<Point>>& rings) {
-  MapObject region;
-  region.kind = MapObject::Kind::region;
-  for (const auto& ring : rings) {
-    region.parts.push_back(static_cast<std::uint32_t>(region.points.size()));
-    region.points.insert(region.points.end(), ring.begin(), ring.end());
-  }
-  for (const Point& p : region.points) region.bounds.add(p);
-  return region;
-}
-
-std::vector<Point> star(double radius, int points, double wave) {
-  std::vector<Point> ring;
-  for (int i = 0; i < points; ++i) {
-    const double angle = 2 * std::numbers::pi * i / points;
-    const double at = radius * (1 + 0.3 * std::sin(wave * angle));
-    ring.push_back({500000 + at * std::cos(angle), 4500000 + at * std::sin(angle)});
-  }
-  ring.push_back(ring.front());
-  return ring;
-}
+constexpr Point kCentre{500000, 4500000};
 
 TEST(RegionIndexes, AgreeWithTheRegionEverywhere) {
-  const MapObject region = regionOf({star(1000, 997, 9), star(400, 61, 5)});
+  const MapObject region = regionOf({star(kCentre, 1000, 997, 9), star(kCentre, 400, 61, 5)});
   const RegionIndex index(region);
   std::mt19937 random(7);
   std::uniform_real_distribution<double> offset(-1400, 1400);
   int inside = 0;
   for (int i = 0; i < 20'000; ++i) {
-    const Point p{500000 + offset(random), 4500000 + offset(random)};
+    const Point p{kCentre.x + offset(random), kCentre.y + offset(random)};
     ASSERT_EQ(index.contains(p), contains(region, p)) << p.x << ' ' << p.y;
     inside += index.contains(p) ? 1 : 0;
   }
@@ -47,7 +27,7 @@ TEST(RegionIndexes, AgreeWithTheRegionEverywhere) {
 }
 
 TEST(RegionIndexes, TheBorderCountsAsInside) {
-  const MapObject region = regionOf({star(1000, 250, 4)});
+  const MapObject region = regionOf({star(kCentre, 1000, 250, 4)});
   const RegionIndex index(region);
   for (const Point& p : region.points) EXPECT_TRUE(index.contains(p));
 }
