@@ -14,13 +14,13 @@ constexpr double kMargin = 1.0 / 1024;
 constexpr double kLeastSide = 1e-9;
 
 struct Range {
-  int first;
-  int last;
+  std::size_t first;
+  std::size_t last;
 };
 
 // The cells of a row or column of `count` that a stretch meets; those outside count as the outermost.
-Range cellsOf(double a, double b, int count) {
-  const auto cell = [count](double at) { return static_cast<int>(std::clamp(at, 0.0, count - 1.0)); };
+Range cellsOf(double a, double b, double count) {
+  const auto cell = [count](double at) { return static_cast<std::size_t>(std::clamp(at, 0.0, count - 1)); };
   return {cell(std::floor(std::min(a, b) - kMargin)), cell(std::floor(std::max(a, b) + kMargin))};
 }
 
@@ -50,23 +50,24 @@ CoverageGrid::CoverageGrid(const MapObject& region, const RegionIndex& index)
   forEachEdge(region, [&](const Edge& onMap) {
     const Edge edge{inCells(onMap.a), inCells(onMap.b)};
     const Range rows = cellsOf(edge.a.y, edge.b.y, kSide);
-    for (int row = rows.first; row <= rows.last; ++row) {
-      const Edge inRow = between(edge, row - kMargin, row + 1 + kMargin);
+    for (std::size_t row = rows.first; row <= rows.last; ++row) {
+      const Edge inRow = between(edge, static_cast<double>(row) - kMargin, static_cast<double>(row) + 1 + kMargin);
       const Range columns = cellsOf(inRow.a.x, inRow.b.x, kSide);
-      for (int column = columns.first; column <= columns.last; ++column) touched[row][column] = true;
+      for (std::size_t column = columns.first; column <= columns.last; ++column) touched[row][column] = true;
     }
   });
 
-  for (int row = 0; row < kSide; ++row) {
+  for (std::size_t row = 0; row < kSide; ++row) {
     Answer answer = Answer::unknown;
-    for (int column = 0; column < kSide; ++column) {
+    for (std::size_t column = 0; column < kSide; ++column) {
       if (touched[row][column]) {
         answer = Answer::unknown;
         continue;
       }
       // No edge lies between a cell and the one before it.
       if (answer == Answer::unknown) {
-        const Point middle{box.minX + (column + 0.5) / columnsPerUnit_, box.minY + (row + 0.5) / rowsPerUnit_};
+        const Point middle{box.minX + (static_cast<double>(column) + 0.5) / columnsPerUnit_,
+                           box.minY + (static_cast<double>(row) + 0.5) / rowsPerUnit_};
         answer = index.contains(middle) ? Answer::inside : Answer::outside;
       }
       rows_[row] |= static_cast<std::uint32_t>(answer) << 2 * column;

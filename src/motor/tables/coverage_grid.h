@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "motor/tables/region_index.h"
@@ -20,14 +21,13 @@ class CoverageGrid {
 
   // What contains(region, p) says, where that is known.
   [[nodiscard]] Answer at(Point p) const {
-    const double column = (p.x - origin_.x) * columnsPerUnit_;
-    const double row = (p.y - origin_.y) * rowsPerUnit_;
-    if (!(column >= 0 && column < kSide && row >= 0 && row < kSide)) return Answer::unknown;
-    return static_cast<Answer>(rows_[static_cast<std::size_t>(row)] >> 2 * static_cast<unsigned>(column) & 3U);
+    const Point cell = inCells(p);
+    if (!(cell.x >= 0 && cell.x < kSide && cell.y >= 0 && cell.y < kSide)) return Answer::unknown;
+    return static_cast<Answer>(rows_[static_cast<std::size_t>(cell.y)] >> 2 * static_cast<unsigned>(cell.x) & 3U);
   }
 
  private:
-  static constexpr int kSide = 16;
+  static constexpr std::size_t kSide = 16;
 
   [[nodiscard]] Point inCells(Point p) const {
     return {(p.x - origin_.x) * columnsPerUnit_, (p.y - origin_.y) * rowsPerUnit_};
