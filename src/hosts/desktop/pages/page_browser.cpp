@@ -92,7 +92,7 @@ PageBrowser::PageBrowser(QWidget* parent)
   noticeTimer_->setSingleShot(true);
   noticeTimer_->setInterval(kNoticeTime);
   connect(noticeTimer_, &QTimer::timeout, notice_, &QWidget::hide);
-  connect(this, &QTextBrowser::sourceChanged, this, [this] { settlePage(); });
+  connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& address) { settlePage(address); });
   addShortcuts();
 }
 
@@ -173,8 +173,9 @@ QString PageBrowser::readHtml(const QUrl& address) {
   return page_.html;
 }
 
-// After a page has come: its ground, its margins, its place, and what was looked for.
-void PageBrowser::settlePage() {
+// After a page has come: its ground, its margins, its place, and what was looked for. The toolkit still tells the source
+// before as its own.
+void PageBrowser::settlePage(const QUrl& address) {
   const QString ground = page_.background.isValid()
                              ? QStringLiteral("QTextBrowser { background: %1 }").arg(page_.background.name())
                              : QString();
@@ -182,7 +183,7 @@ void PageBrowser::settlePage() {
   settleMargins();
   layOut();
   wait_.reset();
-  if (source().hasFragment()) scrollToAnchor(source().fragment());
+  if (address.hasFragment()) scrollToAnchor(address.fragment());
   if (isFinding()) search(findBar_->words());
 }
 

@@ -61,7 +61,7 @@ class PageBrowser : public QTextBrowser {
  private:
   void addShortcuts();
   [[nodiscard]] QString readHtml(const QUrl& address);
-  void settlePage();
+  void settlePage(const QUrl& address);
   void layOut();
   void settleMargins();
   void setZoom(double zoom);

@@ -86,6 +86,30 @@ class PageBrowsers : public ::testing::Test {
   PageBrowser browser{nullptr};
 };
 
+TEST_F(PageBrowsers, GoToThePlacesOfAPageThatItsLinksName) {
+  std::string text = "<h1>Ayuda</h1><ul><li><a href='#botones'>Botones</a><li><a href='#fin'>Fin</a></ul>";
+  const auto add = [&text](const char* heading) {
+    text += heading;
+    for (int i = 0; i < 60; ++i) text += "<p>Una línea más</p>";
+  };
+  add("<h2 id='botones'>Botones</h2>");
+  add("<h2>Tablas</h2>");
+  add("<dl><dt id='fin'>Fin<dd>Lo último</dl>");
+  write("Veldoria/Ayuda/Ayuda.html", text.c_str());
+  open("Veldoria/Ayuda/Ayuda.html");
+  hands::settle();
+  const auto followed = [this](const char* link) {
+    follow(link);
+    hands::settle();
+    return browser.verticalScrollBar()->value();
+  };
+  ASSERT_EQ(browser.verticalScrollBar()->value(), 0);
+  const int buttons = followed("#botones");
+  EXPECT_GT(buttons, 0);
+  EXPECT_GT(followed("#fin"), buttons);
+  EXPECT_EQ(followed("#botones"), buttons);
+}
+
 TEST_F(PageBrowsers, ShowAPageByItsTitleOrName) {
   EXPECT_EQ(page(), "Una tabla");
   EXPECT_TRUE(browser.toPlainText().startsWith(QStringLiteral("Defunción")));
