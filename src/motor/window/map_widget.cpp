@@ -117,9 +117,19 @@ void MapWidget::settle() {
   update();
 }
 
+MapWidget::Place MapWidget::place() const { return {window_->map().centre, window_->map().zoomMetres}; }
+
+// Where the program has moved the map under a resting pointer, that is over something that nobody has pointed at.
+void MapWidget::lightUpAgain() {
+  if (window_ == nullptr) return;
+  if (!settle_.isActive() && place() != litPlace_) pointer_.reset();
+  lightUp();
+}
+
 void MapWidget::lightUp() {
   if (window_ == nullptr) return;
   hoverRevision_ = window_->revision();
+  litPlace_ = place();
   const bool lights = pointer_ && !held_ && !settle_.isActive() && !spaceHeld_ && tool_ && tool_->lightsObjects();
   if (lights ? hover_.pointTo(*window_, *pointer_) : hover_.clear()) update();
 }
@@ -172,7 +182,7 @@ void MapWidget::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), Qt::white);
     return;
   }
-  if (hoverRevision_ != window_->revision()) lightUp();
+  if (hoverRevision_ != window_->revision()) lightUpAgain();
   paintMap(painter);
   const MapView view(window_->map(), size());
   hover_.paintOutline(painter, view, devicePixelRatioF());
@@ -270,7 +280,7 @@ void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (held) held->release(pointerOf(*event));
   if (!self) return;
   updateCursor();
-  lightUp();
+  lightUpAgain();
 }
 
 void MapWidget::leaveEvent(QEvent* event) {

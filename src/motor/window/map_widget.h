@@ -64,6 +64,13 @@ class MapWidget : public QWidget, private MapSite {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  // Which part of the world the map shows.
+  struct Place {
+    Point centre;
+    double zoomMetres = 0;
+    [[nodiscard]] bool operator==(const Place&) const = default;
+  };
+  [[nodiscard]] Place place() const;
   // For the tools.
   void toolChanged() override { update(); }
   void updateCursor() override;
@@ -80,6 +87,7 @@ class MapWidget : public QWidget, private MapSite {
   void press(QMouseEvent* event, void (MapTool::*begin)(const Pointer&));
   void settle();
   void lightUp();
+  void lightUpAgain();
   [[nodiscard]] bool moveByKey(int key);
   [[nodiscard]] bool giveUp();
 
@@ -92,6 +100,7 @@ class MapWidget : public QWidget, private MapSite {
   std::optional<QPointF> pointer_;  // while it is over the map
   HoverLight hover_;
   std::uint64_t hoverRevision_ = 0;  // of the map that the light was for
+  Place litPlace_;                   // of the same
   SelectionLight selection_;
   LabelTexts texts_;
   PlacedLabels labels_;

@@ -81,5 +81,26 @@ TEST_F(Hover, TheLightFollowsTheLayers) {
   EXPECT_EQ(names(), QStringList("Mujeres")) << "the layer's label expression";
 }
 
+// A consultation zooms to its place.
+TEST_F(Hover, NothingIsLitUnderAPointerThatRestsWhileTheProgramMovesTheMap) {
+  useOwnTool();
+  const QPoint at = pixelOf({-3, 42});
+  moveTo(at);
+  (void)picture();
+  ASSERT_FALSE(names().isEmpty());
+  session_->run("set map zoom 200 units \"km\"");
+  (void)picture();
+  EXPECT_TRUE(names().isEmpty());
+  session_->run("set map zoom 201 units \"km\"");
+  (void)picture();
+  EXPECT_TRUE(names().isEmpty());
+  moveTo(at + QPoint(1, 0));
+  EXPECT_FALSE(names().isEmpty());
+  calls_->whenCalled = [&] { session_->run("set map zoom 150 units \"km\""); };
+  click(at + QPoint(1, 0));
+  EXPECT_EQ(calls_->calls.size(), 1U);
+  EXPECT_TRUE(names().isEmpty()) << "the button was let go of where the map had gone away";
+}
+
 }  // namespace
 }  // namespace motor
