@@ -91,6 +91,8 @@ void explainTroubles(Prose& prose) {
       {"«No existe ningún mapa para los parámetros seleccionados»",
        "El estudio no tiene ese mapa: elija otro indicador, sexo, marco o año."},
       {"«Pinche sobre un objeto del mapa por favor.»", "El punto está fuera de la región: haga clic dentro de ella."},
+      {"En la ficha «Mapas» no se va «Espere por favor...»",
+       "El punto está fuera de la región o en una unidad sin datos: haga clic en otra unidad, o elija un mapa."},
       {"«No se encuentra el archivo.»", "Falta el informe de ese año en la carpeta «Archivos» del estudio."},
       {"Una unidad aparece sin datos",
        "No tiene población de la que calcular la tasa, la causa no existe en ese sexo, o la cifra no se publica."},
