@@ -114,6 +114,7 @@ void FormWindow::changeScale(UINT dots, const RECT& suggested) {
   for (const auto& view : views_) view->rescale();
   SetWindowPos(handle(), nullptr, suggested.left, suggested.top, widthOf(suggested), heightOf(suggested),
                SWP_NOZORDER | SWP_NOACTIVATE);
+  reportPlace();  // the same pixels are another place in twips
 }
 
 }  // namespace windows

@@ -114,7 +114,11 @@ class Tour {
   }
 
   void awaitEnd() const {
-    if (WaitForSingleObject(process_.get(), 30000) != WAIT_OBJECT_0) throw std::runtime_error("it does not end");
+    constexpr DWORD kPatience = 60'000;  // milliseconds
+    if (WaitForSingleObject(process_.get(), kPatience) != WAIT_OBJECT_0) throw std::runtime_error("it does not end");
+    DWORD code = 0;
+    GetExitCodeProcess(process_.get(), &code);
+    if (code != 0) throw std::runtime_error("it ends with code " + std::to_string(code));
   }
 
   // The native control notifies its window as if the user had chosen the tab.
@@ -123,6 +127,7 @@ class Tour {
       if (SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) != 4 || GetParent(tabs) != main_) continue;
       if (GetWindowLongPtrW(tabs, GWL_STYLE) & TCS_FIXEDWIDTH) continue;  // the years
       PostMessageW(tabs, TCM_SETCURFOCUS, mode, 0);
+      waitUntil("the tab", [&] { return SendMessageW(tabs, TCM_GETCURSEL, 0, 0) == mode; });
       settle();
       return;
     }
@@ -130,14 +135,19 @@ class Tour {
   }
 
   void pickFirst(const std::string& what) const {
+    HWND combo = nullptr;
+    waitUntil("a choice of " + what, [&] { return (combo = filledCombo()) != nullptr; });
+    SendMessageW(combo, CB_SETCURSEL, 0, 0);
+    PostMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(combo));
+  }
+
+  // The first that has something to choose from, or null.
+  [[nodiscard]] HWND filledCombo() const {
     for (const HWND combo : childrenOf(main_, WC_COMBOBOXW)) {
-      if (SendMessageW(combo, CB_GETCOUNT, 0, 0) < 1) continue;
-      SendMessageW(combo, CB_SETCURSEL, 0, 0);
-      PostMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE),
-                   reinterpret_cast<LPARAM>(combo));
-      return;
+      if (SendMessageW(combo, CB_GETCOUNT, 0, 0) > 0) return combo;
     }
-    throw std::runtime_error("there is no choice of " + what);
+    return nullptr;
   }
 
   [[nodiscard]] HWND map() const {

@@ -32,6 +32,8 @@ ComboView::ComboView(forms::ItemList& list, ViewContext& context, HWND parent)
 void ComboView::rescale() {
   ControlView::rescale();
   fitHeight();
+  SendMessageW(window(), CB_SETDROPPEDWIDTH, 0, 0);
+  for (const std::string& item : list_.items()) widenFor(wide(item));
 }
 
 // A combo is as high as its text asks for; this gives it the height of its control.
@@ -50,16 +52,20 @@ void ComboView::sync(forms::Property property) {
   if (property == forms::Property::ListIndex || property == forms::Property::Text) showChoice();
 }
 
-// The list opens as wide as its longest item.
 void ComboView::itemAdded(const std::string& item) {
-  constexpr double kMargins = 12;
   const std::wstring text = wide(item);
   SendMessageW(window(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  widenFor(text);
+  showChoice();
+}
+
+// The list opens as wide as its longest item.
+void ComboView::widenFor(const std::wstring& text) {
+  constexpr double kMargins = 12;
   const int needed = Ruler(window(), font()).widthOf(text) + scale().of(kMargins) + GetSystemMetrics(SM_CXVSCROLL);
   if (needed > SendMessageW(window(), CB_GETDROPPEDWIDTH, 0, 0)) {
     SendMessageW(window(), CB_SETDROPPEDWIDTH, static_cast<WPARAM>(needed), 0);
   }
-  showChoice();
 }
 
 void ComboView::cleared() {

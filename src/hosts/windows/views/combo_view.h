@@ -25,6 +25,7 @@ class ComboView : public ControlView {
   [[nodiscard]] bool isChosenAgain() const;
   void showChoice();
   void fitHeight();
+  void widenFor(const std::wstring& text);
   void pickSoon();
   void pick();
   void edited();
