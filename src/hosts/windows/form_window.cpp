@@ -8,7 +8,6 @@
 #include "hosts/windows/drawing/painting.h"
 #include "hosts/windows/form_class.h"
 #include "hosts/windows/keyboard_order.h"
-#include "hosts/windows/pop_up_watch.h"
 #include "hosts/windows/views/combo_view.h"
 #include "hosts/windows/views/image_view.h"
 #include "hosts/windows/views/measures.h"
@@ -18,6 +17,7 @@
 #include "hosts/windows/views/view_factory.h"
 #include "hosts/windows/views/web_browser_view.h"
 #include "hosts/windows/win32/wide_text.h"
+#include "hosts/windows/win32/window_class.h"
 #include "hosts/windows/window_placement.h"
 
 namespace windows {
@@ -141,11 +141,20 @@ void FormWindow::controlWritten(const forms::Control& control, forms::Property p
 
 void FormWindow::visibilityWritten(const forms::Control& control) {
   if (!screen::isPopUp(control)) return;
+  const ControlView* popUp = viewOf(control);
+  if (!control.visible() && popUp != nullptr) leaveToItsLabel(popUp->window());
   if (screen::openPopUps(form_) > 0) {
     SetTimer(handle(), kPopUpClock, kPopUpInterval, nullptr);
   } else {
     KillTimer(handle(), kPopUpClock);
   }
+}
+
+// The keyboard does not stay within a menu that closes.
+void FormWindow::leaveToItsLabel(HWND popUp) {
+  const HWND label = labelOfPopUp(popUp);
+  if (IsChild(popUp, lastFocus_) != FALSE) lastFocus_ = label;
+  if (IsChild(popUp, GetFocus()) != FALSE) SetFocus(label == nullptr ? handle() : label);
 }
 
 void FormWindow::paintNow(const forms::Control& control, forms::Property written) {
@@ -187,7 +196,7 @@ void FormWindow::pointAtForm() {
 // The program closes its pop-up frames when the pointer is on the form; to users everything that is not the menu is the
 // form, other programs' windows too.
 void FormWindow::watchPopUps() {
-  if (pointerIsOutsideMenus(handle())) pointAtForm();
+  if (popUpWatch_.userIsOutside(handle())) pointAtForm();
 }
 
 void FormWindow::elapsed(UINT_PTR clock) {
@@ -199,13 +208,30 @@ void FormWindow::elapsed(UINT_PTR clock) {
   }
 }
 
-// Outside calls nobody but the engine disables the window, for a box of its own. Where its map is gone, so are the
-// engine and its box.
+// Outside calls only the engine and the pages disable the window, for boxes of their own. Where its map is gone, so are
+// the engine and its box.
 void FormWindow::takeInputWithoutEngine() {
   const auto isMapPlace = [](const auto& view) { return dynamic_cast<const PictureBoxView*>(view.get()) != nullptr; };
   const auto place = std::ranges::find_if(views_, isMapPlace);
-  if (place == views_.end() || context_.calls.isBusy()) return;
+  if (place == views_.end() || context_.calls.isBusy() || hasBoxInFront()) return;
   if (GetWindow((*place)->window(), GW_CHILD) == nullptr) EnableWindow(handle(), TRUE);
+}
+
+// Whether a window of this thread lies in front of this one that is none of the program's forms.
+bool FormWindow::hasBoxInFront() const {
+  struct Search {
+    HWND owner;
+    bool found;
+  };
+  const auto look = [](HWND window, LPARAM more) -> BOOL {
+    auto& search = *reinterpret_cast<Search*>(more);
+    const bool isInFront = GetWindow(window, GW_OWNER) == search.owner && IsWindowVisible(window) != FALSE;
+    search.found = isInFront && !isOfClass(window, formClass(receive));
+    return search.found ? FALSE : TRUE;
+  };
+  Search search{handle(), false};
+  EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&search));
+  return search.found;
 }
 
 // Windows gives back the keyboard to the window; the window gives it back to the control that had it.
@@ -246,6 +272,7 @@ bool FormWindow::turnPage(bool next) {
     if (row == nullptr || area(*tabs) > area(*row)) row = tabs;
   }
   if (row == nullptr) return false;
+  popUpWatch_.keyboardUsed();
   context_.keyboardUsed = true;
   SetFocus(row->window());
   row->turn(next ? 1 : -1);
@@ -262,7 +289,10 @@ bool FormWindow::listIsOpen(HWND at) const {
 }
 
 bool FormWindow::takeMessage(const MSG& message) {
-  if (message.message == WM_LBUTTONDOWN) context_.keyboardUsed = false;
+  if (message.message == WM_LBUTTONDOWN) {
+    popUpWatch_.pointerUsed();
+    context_.keyboardUsed = false;
+  }
   if (message.message != WM_KEYDOWN) return false;
   for (const auto& view : views_) {
     const auto* page = dynamic_cast<const WebBrowserView*>(view.get());
@@ -274,6 +304,7 @@ bool FormWindow::takeMessage(const MSG& message) {
       if (GetKeyState(VK_CONTROL) < 0) return turnPage(next);
       const HWND target = nextForKeyboard(handle(), message.hwnd, next);
       if (target == nullptr) return false;
+      popUpWatch_.keyboardUsed();
       context_.keyboardUsed = true;
       SetFocus(target);
       if (ControlView* view = ControlView::of(target)) view->pointAt();
@@ -337,7 +368,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM large) {
       changeScale(LOWORD(wide), *reinterpret_cast<const RECT*>(large));
       return 0;
     case WM_MOUSEMOVE:
-      pointAtForm();
+      if (!popUpWatch_.pointerRests()) pointAtForm();
       return 0;
     case WM_LBUTTONDBLCLK: {
       forms::Form& form = form_;

@@ -9,6 +9,7 @@
 #include "forms/form.h"
 #include "hosts/screen/displays.h"
 #include "hosts/screen/looks.h"
+#include "hosts/windows/pop_up_watch.h"
 #include "hosts/windows/views/control_view.h"
 #include "hosts/windows/views/view_context.h"
 
@@ -58,8 +59,10 @@ class FormWindow : public screen::FormDisplay {
   void pointAtForm();
   void visibilityWritten(const forms::Control& control);
   void watchPopUps();
+  void leaveToItsLabel(HWND popUp);
   void elapsed(UINT_PTR clock);
   void takeInputWithoutEngine();
+  [[nodiscard]] bool hasBoxInFront() const;
   void resized(WPARAM how);
   void reportSize();
   void reportPlace();
@@ -79,6 +82,7 @@ class FormWindow : public screen::FormDisplay {
   WindowHandle toolTips_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::map<const forms::Control*, ControlView*> viewOf_;
+  PopUpWatch popUpWatch_;
   HWND lastFocus_ = nullptr;                                     // of a window that is not active
   std::shared_ptr<bool> isHere_ = std::make_shared<bool>(true);  // for what is done later
   bool hasSizeOfItsOwn_ = false;

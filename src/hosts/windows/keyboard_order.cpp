@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "hosts/windows/pop_up_watch.h"
 #include "hosts/windows/win32/window_class.h"
 
 namespace windows {
@@ -27,11 +28,13 @@ bool takesKeyboard(HWND window) {
 }
 
 // The children of a window as they are read: those whose tops differ by less than half of the upper one's height stand
-// in one row.
+// in one row. A pop-up menu follows its label.
 std::vector<HWND> childrenInOrder(HWND parent) {
   std::vector<HWND> children;
+  std::vector<HWND> popUps;
   for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) != 0) children.push_back(child);
+    if ((GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE) == 0) continue;
+    (labelOfPopUp(child) == nullptr ? children : popUps).push_back(child);
   }
   std::ranges::stable_sort(children, {}, [](HWND child) { return rectOf(child).top; });
   for (auto row = children.begin(); row != children.end();) {
@@ -40,6 +43,10 @@ std::vector<HWND> childrenInOrder(HWND parent) {
     const auto end = std::find_if(row, children.end(), [middle](HWND child) { return rectOf(child).top > middle; });
     std::ranges::stable_sort(row, end, {}, [](HWND child) { return rectOf(child).left; });
     row = end;
+  }
+  for (const HWND popUp : popUps) {
+    const auto label = std::ranges::find(children, labelOfPopUp(popUp));
+    children.insert(label == children.end() ? label : label + 1, popUp);
   }
   return children;
 }
@@ -58,6 +65,19 @@ void addWithin(HWND parent, std::vector<HWND>& order) {
   }
 }
 
+// The place of `from` in the order: its own, that of the option which stands for its group, or that of the innermost
+// window around it.
+std::vector<HWND>::const_iterator placeOf(HWND from, const std::vector<HWND>& order, HWND form) {
+  for (HWND at = from; at != nullptr && at != form; at = GetParent(at)) {
+    const auto isHere = [at](HWND each) {
+      return each == at || (isOption(at) && isOption(each) && GetParent(each) == GetParent(at));
+    };
+    const auto here = std::ranges::find_if(order, isHere);
+    if (here != order.end()) return here;
+  }
+  return order.end();
+}
+
 }  // namespace
 
 std::vector<HWND> keyboardOrder(HWND form) {
@@ -69,8 +89,7 @@ std::vector<HWND> keyboardOrder(HWND form) {
 HWND nextForKeyboard(HWND form, HWND from, bool next) {
   const std::vector<HWND> order = keyboardOrder(form);
   if (order.empty()) return nullptr;
-  const auto here =
-      std::ranges::find_if(order, [from](HWND each) { return each == from || IsChild(each, from) != FALSE; });
+  const auto here = placeOf(from, order, form);
   if (here == order.end()) return next ? order.front() : order.back();
   const auto index = static_cast<std::size_t>(here - order.begin());
   return order[(index + (next ? 1 : order.size() - 1)) % order.size()];

@@ -1,5 +1,7 @@
 #include "hosts/windows/long_work.h"
 
+#include <utility>
+
 #include "hosts/windows/win32/window_class.h"
 
 namespace windows {
@@ -27,11 +29,13 @@ bool isPress(const MSG& message) {
 }  // namespace
 
 // Calls that follow one another at once are one piece of work: nothing that waited was handled between them.
-void LongWork::end(DWORD now) {
-  const Span span{begin_, now};
-  if (span.length() < kMoment) return;
+bool LongWork::end(DWORD now) {
+  if (!begin_) return false;
+  const Span span{*std::exchange(begin_, std::nullopt), now};
   const bool goesOn = last_ && span.begin - last_->end <= kAtOnce;
-  last_ = {goesOn ? last_->begin : span.begin, now};
+  const bool isLong = span.length() >= kMoment;
+  if (isLong) last_ = {goesOn ? last_->begin : span.begin, now};
+  return isLong || goesOn;
 }
 
 // The clock starts anew every seven weeks: only differences say what was first.

@@ -12,7 +12,9 @@ namespace windows {
 class LongWork {
  public:
   void begin(DWORD now) { begin_ = now; }
-  void end(DWORD now);
+  // Does nothing where no work is under way. True when what was pressed meanwhile, or before it, may still wait.
+  bool end(DWORD now);
+  [[nodiscard]] bool isUnderWay() const { return begin_.has_value(); }
 
   // Whether the message is a mouse button or a key pressed meanwhile. What is typed into a text stays: who types fast
   // means it. What happens to a window's frame stays too.
@@ -25,7 +27,7 @@ class LongWork {
     [[nodiscard]] DWORD length() const { return end - begin; }
   };
 
-  DWORD begin_ = 0;
+  std::optional<DWORD> begin_;
   std::optional<Span> last_;
 };
 

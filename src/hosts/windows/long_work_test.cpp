@@ -54,6 +54,20 @@ TEST_F(Work, IsOnePieceWhereItGoesOnAtOnce) {
   EXPECT_FALSE(covers(1500));
 }
 
+TEST_F(Work, TellsWhetherSomethingMayStillWaitFromBefore) {
+  EXPECT_FALSE(work.end(500)) << "there was none";
+  work.begin(1000);
+  EXPECT_TRUE(work.isUnderWay());
+  EXPECT_TRUE(work.end(2000));
+  EXPECT_FALSE(work.isUnderWay());
+  EXPECT_FALSE(work.end(3000)) << "it has ended before";
+  EXPECT_FALSE(covers(2500));
+  work.begin(2040);
+  EXPECT_TRUE(work.end(2050)) << "at once";
+  work.begin(2100);
+  EXPECT_FALSE(work.end(2110));
+}
+
 TEST_F(Work, KnowsThatTheClockStartsAnew) {
   constexpr DWORD kLast = 0xFFFFFFFF;
   workFrom(kLast - 500, 500);

@@ -25,4 +25,19 @@ bool runWaitingMessages(const WindowsHost& host) {
   return true;
 }
 
+// Keys of menus and of the windows' frames stay. The thread's end is found in any range; it is for the loop outside.
+void handleWaitingInput(const WindowsHost& host) {
+  struct Range {
+    UINT first;
+    UINT last;
+  };
+  for (const Range range : {Range{WM_KEYDOWN, WM_DEADCHAR}, Range{WM_LBUTTONDOWN, WM_MBUTTONDBLCLK}}) {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, range.first, range.last, PM_REMOVE) != FALSE) {
+      if (message.message == WM_QUIT) return PostQuitMessage(static_cast<int>(message.wParam));
+      handle(host, message);
+    }
+  }
+}
+
 }  // namespace windows

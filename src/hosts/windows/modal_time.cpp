@@ -1,10 +1,15 @@
 #include "hosts/windows/modal_time.h"
 
+#include "hosts/windows/message_loop.h"
 #include "hosts/windows/windows_host.h"
 
 namespace windows {
 
-ModalTime::ModalTime(const WindowsHost& host) : windows_(host.waitingWindows()), owner_(host.frontWindow()) {
+ModalTime::ModalTime(const WindowsHost& host)
+    : windows_(host.waitingWindows()),
+      work_(host.work().isUnderWay() ? &host.work() : nullptr),
+      owner_(host.frontWindow()) {
+  if (work_ != nullptr && work_->end(GetTickCount())) handleWaitingInput(host);
   windows_.boxOpened();
   for (const FormWindow* window : host.windows()) {
     const HWND handle = window->handle();
@@ -17,6 +22,7 @@ ModalTime::ModalTime(const WindowsHost& host) : windows_(host.waitingWindows()),
 ModalTime::~ModalTime() {
   for (const HWND window : disabled_) EnableWindow(window, TRUE);
   windows_.boxClosed();
+  if (work_ != nullptr) work_->begin(GetTickCount());
 }
 
 }  // namespace windows

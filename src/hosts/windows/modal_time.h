@@ -6,10 +6,12 @@
 
 namespace windows {
 
+class LongWork;
 class WaitingWindows;
 class WindowsHost;
 
-// The time of a modal box: the program's windows other than the one that the box lies in front of take no input.
+// The time of a modal box: the program's windows other than the one that the box lies in front of take no input. What
+// was pressed before, while the program did not answer, does not answer the box.
 class ModalTime {
  public:
   explicit ModalTime(const WindowsHost& host);
@@ -22,6 +24,7 @@ class ModalTime {
 
  private:
   WaitingWindows& windows_;
+  LongWork* work_;  // that the box interrupts, or null
   HWND owner_;
   std::vector<HWND> disabled_;
 };

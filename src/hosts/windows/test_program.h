@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,6 +60,15 @@ class Program {
 
   // Handles the messages that wait.
   void settle() const { (void)runWaitingMessages(host); }
+  // Handles messages, those of clocks too, until something is so or so many milliseconds are over. Whether it is so.
+  [[nodiscard]] bool becomesSo(const std::function<bool()>& isSo, ULONGLONG milliseconds) const {
+    const ULONGLONG end = GetTickCount64() + milliseconds;
+    while (!isSo() && GetTickCount64() < end) {
+      settle();
+      Sleep(10);
+    }
+    return isSo();
+  }
   [[nodiscard]] Words take() { return std::exchange(noted, {}); }
   [[nodiscard]] HWND window(const forms::Control& control) const { return host.handleOf(control); }
 

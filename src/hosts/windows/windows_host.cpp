@@ -74,7 +74,7 @@ bool WindowsHost::takeMessage(const MSG& message) const {
   for (const auto& [form, window] : windows_) {
     const HWND handle = window->handle();
     if (message.hwnd == handle || IsChild(handle, message.hwnd) != FALSE) {
-      return work_.covers(message) || window->takeMessage(message);
+      return work_->covers(message) || window->takeMessage(message);
     }
   }
   return false;
@@ -127,10 +127,15 @@ std::string WindowsHost::locationName(const forms::WebBrowser& browser) {
   return view == nullptr ? "" : view->locationName();
 }
 
+void WindowsHost::leaveUnattended() {
+  unattended_ = true;
+  if (workBegan) workBegan();
+}
+
 // As if the user had closed the program, but at once: the system waits for the answer to its message only. A call under
 // way is left to the system.
 void WindowsHost::endSession() {
-  sessionEnds_ = true;
+  leaveUnattended();
   const FormWindow* window = workingWindow();
   if (window == nullptr && !windows_.empty()) window = windows_.begin()->second.get();
   if (window == nullptr || calls().isBusy()) return;
@@ -139,13 +144,13 @@ void WindowsHost::endSession() {
 }
 
 void WindowsHost::beforeCall() {
-  work_.begin(GetTickCount());
-  if (callBegan) callBegan();
+  work_->begin(GetTickCount());
+  if (workBegan) workBegan();
 }
 
 // The program is over when its last form is gone.
 void WindowsHost::afterCall() {
-  work_.end(GetTickCount());
+  work_->end(GetTickCount());
   for (const auto& [form, window] : windows_) window->afterCall();
   const HCURSOR waiting = LoadCursorW(nullptr, IDC_WAIT);
   if (GetCursor() == waiting) SetCursor(LoadCursorW(nullptr, IDC_ARROW));

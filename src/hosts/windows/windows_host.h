@@ -37,10 +37,13 @@ class WindowsHost : public screen::DisplayListener {
   [[nodiscard]] HWND frontWindow() const;
   // What the engine that the program waits for may do to its windows.
   [[nodiscard]] WaitingWindows& waitingWindows() const { return *waitingWindows_; }
-  // Whether the user's session with the system is ending: nobody is there to answer questions any more.
-  [[nodiscard]] bool sessionEnds() const { return sessionEnds_; }
-  // A call into the program begins.
-  screen::ProgramCalls::Action callBegan;
+  // When the user last waited for the program.
+  [[nodiscard]] LongWork& work() const { return *work_; }
+  // Nobody is there to answer questions any more: the user's session with the system ends, or the program does.
+  [[nodiscard]] bool isUnattended() const { return unattended_; }
+  void leaveUnattended();
+  // A call into the program begins, or its end.
+  screen::ProgramCalls::Action workBegan;
 
   // All windows of forms that are loaded.
   [[nodiscard]] std::vector<FormWindow*> windows() const;
@@ -67,8 +70,8 @@ class WindowsHost : public screen::DisplayListener {
 
   ActionQueue queue_;
   std::unique_ptr<WaitingWindows> waitingWindows_ = std::make_unique<WaitingWindows>(*this);
-  LongWork work_;
-  bool sessionEnds_ = false;
+  std::unique_ptr<LongWork> work_ = std::make_unique<LongWork>();
+  bool unattended_ = false;
   std::optional<SIZE> firstSize_;
   std::map<const forms::Form*, std::unique_ptr<FormWindow>> windows_;  // of forms that are loaded
   std::vector<std::unique_ptr<FormWindow>> leaving_;  // of forms that were unloaded while their own messages ran

@@ -28,12 +28,7 @@ class Host : public ::testing::Test {
   }
   // Whether the window takes input again in so many milliseconds.
   bool isEnabledWithin(HWND window, ULONGLONG milliseconds) const {
-    const ULONGLONG end = GetTickCount64() + milliseconds;
-    while (IsWindowEnabled(window) == FALSE && GetTickCount64() < end) {
-      program.settle();
-      Sleep(10);
-    }
-    return IsWindowEnabled(window) != FALSE;
+    return program.becomesSo([window] { return IsWindowEnabled(window) != FALSE; }, milliseconds);
   }
   void click(HWND window) const {
     PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
@@ -111,7 +106,7 @@ TEST_F(Host, BringsAPaletteOntoTheScreenWhenItAppearsButNotFromWhereItsUserPutsI
 TEST_F(Host, ClosesAtOnceWhenTheSessionEndsAndAsksNothing) {
   SendMessageW(program.window(program.form), WM_ENDSESSION, FALSE, 0);
   EXPECT_EQ(program.take(), Words{}) << "somebody has stopped it";
-  EXPECT_FALSE(program.host.sessionEnds());
+  EXPECT_FALSE(program.host.isUnattended());
   SendMessageW(program.window(program.selector), WM_ENDSESSION, TRUE, 0);
   EXPECT_EQ(program.take(), Words{"cierre"});
   EXPECT_FALSE(program.form.isLoaded());
@@ -124,7 +119,7 @@ TEST_F(Host, LeavesACallUnderWayToTheSystemWhenTheSessionEnds) {
   program.calls.run([this] { SendMessageW(program.window(program.form), WM_ENDSESSION, TRUE, 0); });
   program.settle();
   EXPECT_TRUE(program.form.isLoaded());
-  EXPECT_TRUE(program.host.sessionEnds());
+  EXPECT_TRUE(program.host.isUnattended());
 }
 
 TEST_F(Host, LetsGoOfTheHelpWhenTheWorkingWindowCloses) {
@@ -144,6 +139,17 @@ TEST_F(Host, TakesInputAgainWhenTheEngineHasEndedWithItsMap) {
   EXPECT_FALSE(isEnabledWithin(working, 1500)) << "the box is still there";
   map.reset();
   EXPECT_TRUE(isEnabledWithin(working, 30000));
+}
+
+// A page's own box, as that of its printing, disables the window that it lies in front of.
+TEST_F(Host, TakesNoInputBeforeABoxOfAPageHasClosed) {
+  const HWND working = program.window(program.form);
+  WindowHandle page(
+      CreateWindowExW(0, WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90, working, nullptr, nullptr, nullptr));
+  EnableWindow(working, FALSE);
+  EXPECT_FALSE(isEnabledWithin(working, 1500)) << "the box is still there";
+  page.reset();
+  EXPECT_TRUE(isEnabledWithin(working, 30000)) << "the selector in front of it is none";
 }
 
 TEST_F(Host, TellsWhatFailsInAMessageToAForm) {

@@ -14,10 +14,11 @@ WindowsProgram::WindowsProgram(const std::string& applicationFolder) : ports_(ho
   atlas_ = std::make_unique<atlas::Atlas>(ports_.ports(), host_);
 }
 
-// The atlas lets go of the engine, whose map lies in one of its windows; the windows go before the forms that they
-// show.
+// The atlas lets go of the engine, whose map lies in one of its windows, and waits little for one that hangs; the
+// windows go before the forms that they show.
 WindowsProgram::~WindowsProgram() {
   calls_.ended = nullptr;
+  host_.leaveUnattended();
   atlas_->motormapa.reset();
   host_.closeAll();
   atlas_.reset();

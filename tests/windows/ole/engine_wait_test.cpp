@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 #include <thread>
 
 #include "hosts/windows/com/busy_engine.h"
@@ -21,11 +22,19 @@ namespace {
 
 using windows::testing::Program;
 
+constexpr const char* kWorkspace = R"(\Tablas\Tematicos\2000\Hombres\Veldoria\Provincias\Tasa bruta (x100.000).wor)";
+
 HWND engineBox() { return FindWindowW(L"#32770", L"MapInfo"); }
 
 // A box with one button has it under another number.
 void pressOk(HWND box) {
   for (const int button : {IDOK, IDCANCEL}) PostMessageW(GetDlgItem(box, button), BM_CLICK, 0, 0);
+}
+
+// The user touches a key.
+void pressKey() {
+  keybd_event(VK_SHIFT, 0, 0, 0);
+  keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
 }
 
 void endProcess(DWORD id) {
@@ -36,13 +45,23 @@ void endProcess(DWORD id) {
 class EngineWait : public ::testing::Test {
  protected:
   EngineWait() {
-    TestPlace::fromEnvironment().tellEngine("wait");
+    place.tellEngine("wait");
     engine = engines.create("MapInfo.runtime");
     windows::setTopmost(selector(), true, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 
   [[nodiscard]] HWND working() const { return program.window(program.form); }
   [[nodiscard]] HWND selector() const { return program.window(program.selector); }
+
+  // The legend of a map, in front of the working window; null where there is none.
+  [[nodiscard]] HWND openLegend() {
+    const auto handle = [](HWND window) { return std::to_string(reinterpret_cast<LONG_PTR>(window)); };
+    engine->run("set application window " + handle(program.window(program.form.picture)));
+    engine->run("run application \"" + place.app + kWorkspace + "\"");
+    engine->run("set window legend parent " + handle(working()));
+    engine->run("open window legend");
+    return FindWindowW(nullptr, L"Leyenda");
+  }
 
   // A call of the program's that the engine answers with a box, until `meanwhile` has returned on another thread. Gives
   // the number of the call's failure.
@@ -63,6 +82,7 @@ class EngineWait : public ::testing::Test {
     return failed;
   }
 
+  TestPlace place = TestPlace::fromEnvironment();
   windows::OleThread ole;
   Program program{Program::First::selector};
   windows::BusyEngine busyEngine{program.host};
@@ -84,6 +104,28 @@ TEST_F(EngineWait, WindowsAlwaysInFrontStepAsideAndComeBack) {
   EXPECT_EQ(failed, 0);
   EXPECT_TRUE(steppedAside);
   EXPECT_TRUE(windows::isTopmost(selector()));
+}
+
+// The legend lies in front of the working window, and rises with it when the user clicks there.
+TEST_F(EngineWait, TheBoxRisesAboveALegendForAnImpatientUser) {
+  const HWND legend = openLegend();
+  ASSERT_NE(legend, nullptr);
+  ASSERT_EQ(GetWindow(legend, GW_OWNER), working());
+  bool cameToTheFront = false;
+  const int failed = callWithBox([&] {
+    EXPECT_TRUE(becomesTrue([] { return GetForegroundWindow() == engineBox(); }));
+    SetForegroundWindow(working());
+    EXPECT_TRUE(becomesTrue([this] { return GetForegroundWindow() == working(); }));
+    SetWindowPos(legend, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    const auto oneRises = [legend] {
+      pressKey();
+      return GetForegroundWindow() == engineBox() || GetForegroundWindow() == legend;
+    };
+    cameToTheFront = becomesTrue(oneRises) && GetForegroundWindow() == engineBox();
+    pressOk(engineBox());
+  });
+  EXPECT_EQ(failed, 0);
+  EXPECT_TRUE(cameToTheFront);
 }
 
 TEST_F(EngineWait, AWindowThatAKilledEngineHasDisabledTakesInputAgain) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "hosts/windows/com/asking_window.h"
 #include "hosts/windows/modal_time.h"
 #include "hosts/windows/program_name.h"
 #include "hosts/windows/win32/wide_text.h"
@@ -17,7 +18,7 @@ constexpr const wchar_t* kQuestion =
 constexpr DWORD kPatience = 8000;      // milliseconds before the user is asked
 constexpr DWORD kStepAside = 1500;     // before the program's windows let others in front
 constexpr DWORD kTryAgain = 150;       // between tries of a refused call
-constexpr DWORD kLastPatience = 2000;  // before a call is given up when the session ends
+constexpr DWORD kLastPatience = 2000;  // before a call is given up when nobody is there
 constexpr DWORD kGiveUp = static_cast<DWORD>(-1);
 
 class Filter final : public IMessageFilter {
@@ -59,14 +60,14 @@ class Filter final : public IMessageFilter {
 
  private:
   [[nodiscard]] bool goesOnAfterRefusal(HTASK callee, DWORD waited) {
-    if (host_.sessionEnds()) return waited < kLastPatience;
+    if (host_.isUnattended()) return waited < kLastPatience;
     return !isTooLong(waited) || keepWaiting(callee, waited);
   }
 
   // A call that the user gives up is cancelled at the next look: its answer may have come while he was asked, and is
   // taken before there is another look.
   [[nodiscard]] bool goesOn(HTASK callee, DWORD waited) {
-    if (host_.sessionEnds()) return waited < kLastPatience;
+    if (host_.isUnattended()) return waited < kLastPatience;
     if (const DWORD givenUp = std::exchange(givenUpAfter_, 0); givenUp > 0 && waited >= givenUp) return false;
     if (waited >= kStepAside) stepAside(callee);
     if (isTooLong(waited) && userIsWaiting() && !keepWaiting(callee, waited)) givenUpAfter_ = waited;
@@ -84,13 +85,9 @@ class Filter final : public IMessageFilter {
   // A box of the engine must not stay behind a window of ours.
   void stepAside(HTASK callee) const {
     host_.waitingWindows().stepAside();
-    if (userIsWaiting()) EnumThreadWindows(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(callee)), bringForward, 0);
-  }
-
-  static BOOL CALLBACK bringForward(HWND window, LPARAM) {
-    if (IsWindowVisible(window) == FALSE || IsWindowEnabled(window) == FALSE) return TRUE;
-    SetForegroundWindow(window);
-    return FALSE;
+    if (!userIsWaiting()) return;
+    const HWND window = askingWindow(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(callee)));
+    if (window != nullptr) SetForegroundWindow(window);
   }
 
   bool keepWaiting(HTASK callee, DWORD waited) {

@@ -11,8 +11,8 @@ class WindowsHost;
 // What happens while OLE waits for the engine, as long as this lives: the thread's message filter. A call that the
 // engine refuses because it is busy is tried again; an engine that keeps the program waiting is let in front (its own
 // modal box may wait for the user), and a user who clicks or types meanwhile is asked whether to go on waiting. A call
-// given up fails like any other, unless its answer has come while the user was asked. When the user's session with the
-// system ends, nobody is asked.
+// given up fails like any other, unless its answer has come while the user was asked. When nobody is there to
+// answer, a call is given up soon and without a question.
 class BusyEngine {
  public:
   // The host outlives this. OLE has been started on the thread.

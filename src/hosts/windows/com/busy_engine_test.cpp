@@ -5,6 +5,7 @@
 #include "hosts/windows/com/ole_thread.h"
 #include "hosts/windows/ports/test_box_user.h"
 #include "hosts/windows/test_program.h"
+#include "hosts/windows/win32/window_class.h"
 #include "hosts/windows/win32/z_order.h"
 
 namespace windows {
@@ -32,6 +33,32 @@ class Filter : public ::testing::Test {
   static void pressKey() {
     keybd_event(VK_SHIFT, 0, 0, 0);
     keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+  }
+
+  // Whether a call is given up soon, and nobody is asked.
+  void expectLittlePatience() {
+    const testing::BoxUser user(pressing(IDRETRY));
+    pressKey();
+    EXPECT_EQ(look(1900), static_cast<DWORD>(PENDINGMSG_WAITDEFPROCESS));
+    EXPECT_EQ(look(2000), static_cast<DWORD>(PENDINGMSG_CANCELCALL));
+    EXPECT_LT(refuse(1900), 1000U);
+    EXPECT_EQ(refuse(2000), static_cast<DWORD>(-1));
+    EXPECT_EQ(user.count(), 0);
+  }
+
+  // How often the pulse beats while so many beats are waited for, half a minute at most.
+  static int beatsHeard(int expected) {
+    int beats = 0;
+    const ULONGLONG end = GetTickCount64() + 30000;
+    while (beats < expected && GetTickCount64() < end) {
+      MSG message;
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 100, QS_ALLINPUT);
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+        if (isOfClass(message.hwnd, L"VeldoriaPulse")) ++beats;
+        DispatchMessageW(&message);
+      }
+    }
+    return beats;
   }
 
   OleThread ole;
@@ -94,14 +121,19 @@ TEST_F(Filter, TriesARefusedCallAgainUntilTheUserGivesItUp) {
 }
 
 TEST_F(Filter, GivesTheLastCallsLittleTimeWhenTheSessionEnds) {
-  const testing::BoxUser user(pressing(IDRETRY));
   program.calls.run([this] { SendMessageW(program.window(program.form), WM_ENDSESSION, TRUE, 0); });
-  pressKey();
-  EXPECT_EQ(look(1900), static_cast<DWORD>(PENDINGMSG_WAITDEFPROCESS));
-  EXPECT_EQ(look(2000), static_cast<DWORD>(PENDINGMSG_CANCELCALL));
-  EXPECT_LT(refuse(1900), 1000U);
-  EXPECT_EQ(refuse(2000), static_cast<DWORD>(-1));
-  EXPECT_EQ(user.count(), 0);
+  expectLittlePatience();
+}
+
+TEST_F(Filter, GivesTheLastCallsLittleTimeWhenTheProgramEnds) {
+  program.host.leaveUnattended();
+  expectLittlePatience();
+}
+
+// The end is no call: whoever waits in it for the engine looks about as often.
+TEST_F(Filter, LooksAboutUntilTheProgramHasEnded) {
+  program.host.leaveUnattended();
+  EXPECT_GE(beatsHeard(3), 3);
 }
 
 }  // namespace

@@ -27,22 +27,22 @@ platform::Variant LateBound::read(const wchar_t* property) {
   return result.value();
 }
 
-DISPID LateBound::idOf(const wchar_t* name) {
+DISPID LateBound::idOf(const ComPtr<IDispatch>& object, const wchar_t* name) {
   const auto known = ids_.find(name);
   if (known != ids_.end()) return known->second;
   std::wstring writable(name);
   LPOLESTR names = writable.data();
   DISPID id = DISPID_UNKNOWN;
-  const HRESULT found = object_->GetIDsOfNames(IID_NULL, &names, 1, kLocale, &id);
+  const HRESULT found = object->GetIDsOfNames(IID_NULL, &names, 1, kLocale, &id);
   if (FAILED(found)) throw failureOf(found);
-  ids_.emplace(name, id);
+  if (object_.get() == object.get()) ids_.emplace(name, id);
   return id;
 }
 
-// The object may let go of its last reference while the call is under way.
+// The object may be let go of, or another one take its place, while a call to it is under way.
 void LateBound::invoke(const wchar_t* name, WORD flags, DISPPARAMS parameters, VARIANT* result) {
-  const DISPID id = idOf(name);
   const ComPtr<IDispatch> kept = object_;
+  const DISPID id = idOf(kept, name);
   EXCEPINFO exception{};
   const HRESULT answer = kept->Invoke(id, IID_NULL, kLocale, flags, &parameters, result, &exception, nullptr);
   const std::string said = takeDescription(exception);

@@ -24,7 +24,7 @@ class LateBound {
   [[nodiscard]] platform::Variant read(const wchar_t* property);
 
  private:
-  [[nodiscard]] DISPID idOf(const wchar_t* name);
+  [[nodiscard]] DISPID idOf(const ComPtr<IDispatch>& object, const wchar_t* name);
   void invoke(const wchar_t* name, WORD flags, DISPPARAMS parameters, VARIANT* result);
 
   ComPtr<IDispatch> object_;

@@ -14,11 +14,11 @@ constexpr DWORD kInterval = 500;  // milliseconds
 }  // namespace
 
 Pulse::Pulse(WindowsHost& host) : host_(host), window_(makeMessageWindow(L"VeldoriaPulse", receive, this)) {
-  host_.callBegan = [this] { start(); };
+  host_.workBegan = [this] { start(); };
 }
 
 Pulse::~Pulse() {
-  host_.callBegan = nullptr;
+  host_.workBegan = nullptr;
   stop();
 }
 
@@ -37,7 +37,8 @@ void Pulse::stop() {
 LRESULT Pulse::receive(HWND window, UINT message, WPARAM wide, LPARAM large) {
   auto* pulse = ownerOf<Pulse>(window);
   if (pulse == nullptr || message != kBeat) return DefWindowProcW(window, message, wide, large);
-  if (!pulse->host_.calls().isBusy()) pulse->stop();
+  const WindowsHost& host = pulse->host_;
+  if (!host.calls().isBusy() && !host.isUnattended()) pulse->stop();
   return 0;
 }
 

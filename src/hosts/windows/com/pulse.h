@@ -6,11 +6,11 @@ namespace windows {
 
 class WindowsHost;
 
-// A message to this thread twice a second while a call into the program is under way: whoever waits in it for another
-// process gets to look about, whether the user does something or not.
+// A message to this thread twice a second while a call into the program is under way, and when it ends: whoever waits
+// in it for another process gets to look about, whether the user does something or not.
 class Pulse {
  public:
-  // The host outlives the pulse, which hears when calls begin.
+  // The host outlives the pulse, which hears when its work begins.
   explicit Pulse(WindowsHost& host);
   ~Pulse();
   Pulse(const Pulse&) = delete;

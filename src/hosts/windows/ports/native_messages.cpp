@@ -10,7 +10,7 @@ platform::Button NativeMessages::show(const std::string& text, int style, const 
   static_assert(platform::kYesNo == MB_YESNO && platform::kCritical == MB_ICONERROR &&
                 platform::kQuestion == MB_ICONQUESTION && platform::kExclamation == MB_ICONEXCLAMATION &&
                 platform::kInformation == MB_ICONINFORMATION);
-  if (host_.sessionEnds()) return (style & platform::kYesNo) == 0 ? platform::Button::ok : platform::Button::no;
+  if (host_.isUnattended()) return (style & platform::kYesNo) == 0 ? platform::Button::ok : platform::Button::no;
   const ModalTime modal(host_);
   const int answer = MessageBoxW(modal.owner(), wide(text).c_str(), wide(title).c_str(), static_cast<UINT>(style));
   switch (answer) {
