@@ -211,6 +211,18 @@ TEST_F(FormWindows, APaletteStaysInFrontOfTheWorkingWindow) {
   palette.unload();
 }
 
+TEST_F(FormWindows, APaletteKeepsItsSize) {
+  testing::TestForm palette(host, "frmTematicos");
+  palette.show();
+  const QWidget& shown = *host.windowOf(palette);
+  EXPECT_EQ(shown.size(), paletteSize(palette));
+  EXPECT_EQ(shown.minimumSize(), shown.size());
+  EXPECT_EQ(shown.maximumSize(), shown.size());
+  EXPECT_FALSE(shown.windowFlags().testAnyFlags(Qt::WindowMinMaxButtonsHint));
+  EXPECT_NE(window().maximumSize(), window().size()) << "the working window is the user's to size";
+  palette.unload();
+}
+
 TEST(FirstPlace, UsesTheScreen) {
   const QRect hd(0, 0, 1920, 1040);
   EXPECT_EQ(firstPlace(screen::FormLook::window, {1024, 768}, hd).size(), QSize(1766, 957));

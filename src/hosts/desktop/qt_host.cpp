@@ -90,10 +90,11 @@ QRect QtHost::firstPlaceOf(const forms::Form& form) const {
 void QtHost::place(FormWindow& window) const {
   forms::Form& form = window.form();
   const QRect place = firstPlaceOf(form);
-  if (!firstSize_ || screen::lookOf(form) != screen::FormLook::window)
-    window.setMinimumSize(smallestSize(screen::lookOf(form)));
+  const screen::FormLook look = screen::lookOf(form);
+  if (!firstSize_ || look != screen::FormLook::window) window.setMinimumSize(smallestSize(look));
   window.move(place.topLeft());
   window.resize(place.size());
+  if (look == screen::FormLook::palette) window.setFixedSize(place.size());  // larger, it would show nothing more
   form.setLeft(toTwips(place.left()));
   form.setTop(toTwips(place.top()));
   form.setWidth(toTwips(place.width()));

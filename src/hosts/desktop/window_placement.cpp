@@ -2,13 +2,16 @@
 
 #include "hosts/desktop/drawn_size.h"
 #include "hosts/desktop/twips.h"
+#include "motor/window/room_on_screen.h"
 
 namespace desktop {
+
+using motor::kUsualFrame;
+
 namespace {
 
 constexpr double kShareOfScreen = 0.92;
 constexpr QSize kSmallestWindow(1000, 680);
-constexpr QSize kUsualFrame(16, 40);  // more than most desktops put around a window
 constexpr double kSmallestScale = 0.5;
 constexpr int kPaletteMargin = 8;  // right of its controls and below them
 

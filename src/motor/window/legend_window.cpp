@@ -2,16 +2,16 @@
 
 #include <QCloseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollBar>
 #include <algorithm>
+
+#include "motor/window/room_on_screen.h"
 
 namespace motor {
 
 namespace {
 
 constexpr int kTitleRoom = 170;  // pixels that a title bar needs to show the title beside its buttons
-constexpr QSize kFrame(12, 42);  // pixels that a window's frame takes at most, while it is not known yet
 
 }  // namespace
 
@@ -40,24 +40,30 @@ LegendWindow::LegendWindow(MapWindow& window, QWidget* parent)
 void LegendWindow::refresh() {
   themes_.dropUnused();
   sheet_->setLegend(Legend(legendSections(window_.map(), themes_)));
-  const QSize room = screen()->availableSize() - kFrame;
+  const QSize room = roomOnScreen(*this);
   QSize size = sheet_->size();
   if (size.height() > room.height()) size.rwidth() += verticalScrollBar()->sizeHint().width();
   setFixedSize(size.boundedTo(room));
-  if (isVisible()) keepOnScreen();
+  if (isVisible()) move(seenWholeNear(pos()));
 }
 
 void LegendWindow::placeAt(QPoint corner) {
-  move(corner);
-  keepOnScreen();
+  // A desktop that is just putting a frame around it would take the corner for that of what is inside.
+  const bool waitsForFrame = isVisible() && frameGeometry() == geometry();
+  if (waitsForFrame) {
+    hide();
+    destroy();
+  }
+  move(seenWholeNear(corner));
+  if (waitsForFrame) show();
 }
 
-void LegendWindow::keepOnScreen() {
+QPoint LegendWindow::seenWholeNear(QPoint corner) const {
   const QRect room = screen()->availableGeometry();
-  const QSize frame = isVisible() ? frameGeometry().size() : size() + kFrame;
+  const QSize frame = isVisible() ? frameGeometry().size() : size() + kUsualFrame;
   const QPoint last(room.right() - frame.width() + 1, room.bottom() - frame.height() + 1);
-  move(std::clamp(x(), room.left(), std::max(room.left(), last.x())),
-       std::clamp(y(), room.top(), std::max(room.top(), last.y())));
+  return {std::clamp(corner.x(), room.left(), std::max(room.left(), last.x())),
+          std::clamp(corner.y(), room.top(), std::max(room.top(), last.y()))};
 }
 
 void LegendWindow::closeEvent(QCloseEvent* event) {

@@ -36,7 +36,8 @@ class LegendWindow : public QScrollArea {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void keepOnScreen();
+  // The place nearest to a corner at which its frame is seen whole, or as much of it as the screen has room for.
+  [[nodiscard]] QPoint seenWholeNear(QPoint corner) const;
 
   MapWindow& window_;
   Themes themes_;

@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPrintPreviewDialog>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -321,6 +322,7 @@ TEST_F(PageBrowsers, OpenAPreviewOfThePrintedPage) {
   auto* preview = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
   ASSERT_NE(preview, nullptr);
   EXPECT_EQ(preview->windowTitle(), "Vista preliminar: Una tabla");
+  EXPECT_TRUE(preview->screen()->availableGeometry().contains(preview->frameGeometry()));
   preview->close();
   hands::settle();
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

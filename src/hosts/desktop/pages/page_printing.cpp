@@ -14,6 +14,7 @@
 #include "hosts/desktop/pages/reading/page_text.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/wait_cursor.h"
+#include "motor/window/room_on_screen.h"
 
 namespace desktop::pages {
 namespace {
@@ -129,7 +130,7 @@ void previewPage(QWidget& parent, const QByteArray& page, const QString& name) {
   auto* preview = new QPrintPreviewDialog(printer.get(), &parent);
   preview->setAttribute(Qt::WA_DeleteOnClose);
   preview->setWindowTitle(QStringLiteral("Vista preliminar: %1").arg(name));
-  preview->resize(kPreviewSize);
+  preview->resize(kPreviewSize.boundedTo(motor::roomOnScreen(*preview)));
   QObject::connect(preview, &QPrintPreviewDialog::paintRequested, preview, [printer, page, name](QPrinter* paper) {
     const WaitCursor waits;
     printPage(*paper, page, name);

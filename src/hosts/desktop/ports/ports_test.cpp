@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
+#include <QFontMetrics>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -129,6 +130,24 @@ TEST_F(DesktopPorts, MessagesHaveTheirIconAndSpanishButtons) {
     });
     const auto answer = messages.show("¿<b>Sigue</b>?", each.style, "Mortalidad en Veldoria");
     EXPECT_EQ(answer, each.buttons.size() == 1 ? platform::Button::ok : platform::Button::no);
+  }
+}
+
+TEST_F(DesktopPorts, AMessageHasRoomForItsTitleAndKeepsItsSize) {
+  const std::string title = "Un título más largo que lo que el mensaje dice";
+  QFont font = QApplication::font("QMdiSubWindowTitleBar");
+  font.setBold(true);
+  for (const int style : {platform::kOkOnly, platform::kYesNo + platform::kQuestion}) {
+    QTimer::singleShot(0, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      EXPECT_GE(box->width(), QFontMetrics(font).horizontalAdvance(box->windowTitle()) + 100)
+          << "and what lies beside it";
+      EXPECT_EQ(box->minimumSize(), box->maximumSize());
+      EXPECT_FALSE(box->windowFlags().testAnyFlags(Qt::WindowMinMaxButtonsHint));
+      box->buttons().constLast()->click();
+    });
+    messages.show("Sí", style, title);
   }
 }
 

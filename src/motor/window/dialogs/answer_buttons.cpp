@@ -5,7 +5,7 @@
 namespace motor {
 
 QDialogButtonBox* answerButtons(QDialog& dialog) {
-  auto* buttons = new QDialogButtonBox;
+  auto* buttons = new QDialogButtonBox(&dialog);  // a default button stays one only within its dialog
   buttons->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole)->setDefault(true);
   buttons->addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);

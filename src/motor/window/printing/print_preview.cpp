@@ -5,10 +5,10 @@
 #include <QHBoxLayout>
 #include <QPrintDialog>
 #include <QPushButton>
-#include <QScreen>
 #include <iterator>
 
 #include "motor/window/printing/map_printing.h"
+#include "motor/window/room_on_screen.h"
 
 namespace motor {
 
@@ -16,8 +16,10 @@ namespace {
 
 constexpr int kTypingMilliseconds = 250;
 constexpr double kMargin = 12;  // millimetres
-constexpr QSize kFirstSize(980, 680);
-constexpr int kTextWidth = 250;
+constexpr QSize kFirstSize(1100, 720);
+constexpr int kTextWidth = 250;  // at least
+constexpr int kPreviewShare = 3;
+constexpr int kOptionsShare = 2;
 constexpr QPageSize::PageSizeId kPapers[] = {QPageSize::A4, QPageSize::A3, QPageSize::A5, QPageSize::Letter};
 constexpr int kPortrait = 0;
 constexpr int kLandscape = 1;
@@ -40,7 +42,7 @@ PrintPreview::PrintPreview(Map map, const PageTexts& texts, QWidget* parent)
   setWindowTitle(QStringLiteral("Imprimir el mapa"));
   setAttribute(Qt::WA_DeleteOnClose);
   setSizeGripEnabled(true);
-  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  resize(kFirstSize.boundedTo(roomOnScreen(*this)));
   printer_.setDocName(texts.title);
   printer_.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
   preview_->setAccessibleName(QStringLiteral("Vista previa"));
@@ -50,7 +52,7 @@ PrintPreview::PrintPreview(Map map, const PageTexts& texts, QWidget* parent)
   typing_.setInterval(kTypingMilliseconds);
   connect(&typing_, &QTimer::timeout, preview_, &QPrintPreviewWidget::updatePreview);
 
-  auto* buttons = new QDialogButtonBox;
+  auto* buttons = new QDialogButtonBox(this);  // a default button stays one only within its dialog
   QPushButton* print = buttons->addButton(QStringLiteral("&Imprimir..."), QDialogButtonBox::AcceptRole);
   print->setDefault(true);
   buttons->addButton(QStringLiteral("&Cerrar"), QDialogButtonBox::RejectRole);
@@ -62,8 +64,8 @@ PrintPreview::PrintPreview(Map map, const PageTexts& texts, QWidget* parent)
   side->addStretch();
   side->addWidget(buttons);
   auto* all = new QHBoxLayout(this);
-  all->addWidget(preview_, 1);
-  all->addLayout(side);
+  all->addWidget(preview_, kPreviewShare);
+  all->addLayout(side, kOptionsShare);
   followPaper();
   print->setFocus();
 }

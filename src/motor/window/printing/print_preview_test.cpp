@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPrintDialog>
 #include <QPushButton>
+#include <QScreen>
 
 #include "motor/window/map_widget_fixture.h"
 
@@ -76,6 +77,34 @@ TEST_F(Preview, PrintsThroughTheToolkitsDialog) {
   EXPECT_GT(std::filesystem::file_size(file.toStdString()), 3000U);
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(preview_.isNull()) << "its work is done";
+}
+
+// The default button is what Enter presses in a field.
+TEST_F(Preview, EnterInAFieldPrintsAndKeepsWhatIsWritten) {
+  for (QWidget* place :
+       {static_cast<QWidget*>(field<QLineEdit>("Título:")), static_cast<QWidget*>(field<QComboBox>("Papel:"))}) {
+    button("Imprimir...")->setFocus();
+    place->setFocus();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(place->hasFocus());
+    EXPECT_TRUE(button("Imprimir...")->isDefault());
+    EXPECT_FALSE(button("Cerrar")->isDefault());
+  }
+  QTest::keyClicks(field<QLineEdit>("Subtítulo:"), "Otro");
+  QTest::keyClick(field<QLineEdit>("Subtítulo:"), Qt::Key_Return);
+  EXPECT_TRUE(preview_->isVisible());
+  EXPECT_NE(preview_->findChild<QPrintDialog*>(), nullptr);
+  EXPECT_EQ(preview_->page().texts().subtitle, "Otro");
+}
+
+TEST_F(Preview, IsSeenWholeAndGivesItsTextsTheRoomThereIs) {
+  EXPECT_TRUE(preview_->screen()->availableGeometry().contains(preview_->frameGeometry()));
+  EXPECT_LT(preview_->minimumSizeHint().height(), 500) << "a small screen has room for it";
+  for (const int more : {0, 300}) {
+    preview_->resize(preview_->width() + more, preview_->height());
+    QCoreApplication::processEvents();
+    EXPECT_GT(field<QLineEdit>("Título:")->width(), preview_->width() * 3 / 10) << more;
+  }
 }
 
 TEST_F(Preview, ClosesWithoutPrinting) {
