@@ -116,5 +116,26 @@ TEST_F(HandLabels, WhatIsPointedAtIsWhatTheToolTakes) {
   EXPECT_EQ(layersFor("ID 2001"), Layers{});
 }
 
+// Laid over the map that its table is in, without the labels that were written there by hand.
+TEST_F(HandLabels, AQueryIsLabelledAsItsTableIsAndThenAsItIsTold) {
+  openYear();
+  lookAt(-3.25, 41.5);
+  run("set map layer 1 label auto on");
+  clickMiddle();
+  run("select * from Provincias2001 where nombre=\"Ñorga\"");
+  run("Add map layer Selection");
+  run("set map layer 1 label font (\"Tahoma\",1,8,16777215)");
+  const std::vector<Layer>& layers = map().map().layers;
+  EXPECT_TRUE(layers[0].label.automatic);
+  EXPECT_EQ(layers[0].label.font.fore, Colour{16777215});
+  EXPECT_TRUE(labels(0).empty());
+  EXPECT_EQ(labels(1).size(), 1U);
+  EXPECT_NE(layers[1].label.font.fore, Colour{16777215});
+  run("select * from Veldoria2001");
+  run("set map layer 1 label auto off");
+  run("Add map layer Selection");
+  EXPECT_FALSE(map().map().layers[0].label.automatic) << "its own table's layer has none";
+}
+
 }  // namespace
 }  // namespace motor

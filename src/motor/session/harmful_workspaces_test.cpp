@@ -130,5 +130,49 @@ TEST_F(HarmfulWorkspaces, mayNotAskForTooMuch) {
   }
 }
 
+std::string repeated(const std::string& text, int count) {
+  std::string result;
+  for (int i = 0; i < count; ++i) result += text;
+  return result;
+}
+
+// Each level runs the next many times, and none is deep.
+TEST_F(HarmfulWorkspaces, mayNotFanOut) {
+  tiny::writeLatin(inside("vacio.wor"), tiny::kFirstLines);
+  tiny::writeLatin(inside("otro.wor"), tiny::kFirstLines + repeated("Run Application \"vacio.wor\"\n", 200));
+  const std::string files = answer(repeated("Run Application \"otro.wor\"\n", 200));
+  EXPECT_TRUE(files.starts_with("malo.wor: otro.wor: línea ")) << files;
+  EXPECT_TRUE(files.ends_with("demasiadas instrucciones que ejecutan otras")) << files;
+
+  const std::string texts = "Dim a, b As String\na = \"" + repeated("Run Command b ", 200) + "\"\n";
+  const std::string empties =
+      answer(texts + "b = \"" + repeated("Run Command c ", 200) + "\"\nDim c As String\nRun Command a\n");
+  EXPECT_NE(empties.find("demasiadas instrucciones que ejecutan otras"), std::string::npos) << empties;
+  const std::string statements = answer(texts + "b = \"" + repeated("Undim x ", 20'000) + "\"\nRun Command a\n");
+  EXPECT_NE(statements.find("no se pueden ejecutar de una vez más de 1000000 instrucciones"), std::string::npos)
+      << statements;
+}
+
+TEST_F(HarmfulWorkspaces, doNotSpendWhatOthersMayRun) {
+  tiny::writeLatin(inside("otro.wor"), tiny::kFirstLines + std::string(12'000'000, '\n'));
+  Session own(windows, {.roots = {folder_.path() / "dentro"}});
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(rejection([&] { own.run("Run Application \"" + inside("otro.wor").string() + "\""); }), "accepted");
+  }
+}
+
+TEST_F(HarmfulWorkspaces, mayBeLong) {
+  EXPECT_EQ(answer("Dim n As Integer\n" + repeated("n=1\n", 300'000)), "accepted");
+}
+
+TEST_F(HarmfulWorkspaces, mayNotFillTheMemoryWithVariables) {
+  std::string variables = "Dim s As String\ns = String$(1000000, \"a\")\n";
+  for (int i = 0; i < 300; ++i) {
+    const std::string name = "a" + std::to_string(i);
+    variables += "Dim " + name + " As String\n" + name + "=s\n";
+  }
+  EXPECT_NE(answer(variables).find("las variables no pueden ocupar en total más de 256 MB"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace motor

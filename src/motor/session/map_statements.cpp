@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include "motor/session/coord_sys.h"
 #include "motor/session/executors.h"
@@ -7,6 +9,7 @@
 #include "motor/session/map_view.h"
 #include "motor/session/session_state.h"
 #include "motor/session/window_shape.h"
+#include "motor/tables/result_table.h"
 #include "text/utf8.h"
 
 namespace motor {
@@ -32,6 +35,17 @@ void nameSelection(SessionState& session, std::vector<Layer>& layers) {
   for (Layer& layer : layers) {
     if (layer.name.empty()) layer.name = session.tables.nameOfSelection();
   }
+}
+
+// What a query found is labelled as its table is in the map over which it is laid; each may then be changed.
+void labelAsItsTable(Layer& layer, const Map& map) {
+  const auto query = std::dynamic_pointer_cast<const ResultTable>(layer.table);
+  if (query == nullptr) return;
+  const auto isOfTable = [&](const Layer& each) { return each.table == query->base().table && !each.theme; };
+  const auto shown = std::ranges::find_if(map.layers, isOfTable);
+  if (shown == map.layers.end()) return;
+  layer.label = shown->label;
+  layer.label.edited.clear();
 }
 
 // The layers of an order from the top. Throws LanguageError for what is no whole number.
@@ -136,6 +150,7 @@ void execute(SessionState& session, const AddMapLayer& statement) {
   Map map = window.map();
   std::size_t onTop = 0;
   for (Layer& layer : layers) {
+    labelAsItsTable(layer, map);
     if (statement.automatic) {
       insertByKind(map, std::move(layer));
     } else {

@@ -37,6 +37,7 @@ std::string contentsOf(const std::filesystem::path& file, const std::string& wri
 // Runs a workspace; errors say in which file they are.
 void runWorkspace(SessionState& session, const std::filesystem::path& file, const std::string& written) {
   const std::string bytes = contentsOf(file, written);
+  session.budget.spendText(bytes.size());
   struct Inside {
     std::vector<std::filesystem::path>& folders;
     Inside(std::vector<std::filesystem::path>& f, std::filesystem::path folder) : folders(f) {
@@ -81,7 +82,9 @@ void execute(SessionState& session, const RunApplication& statement) {
 }
 
 void execute(SessionState& session, const RunCommand& statement) {
-  session.run(parseProgram(session.text(statement.text)));
+  const std::string text = session.text(statement.text);
+  session.budget.spendText(text.size());
+  session.run(parseProgram(text));
 }
 
 void execute(SessionState& session, const EndSession& /*statement*/) {
@@ -122,18 +125,17 @@ void execute(SessionState& session, const SetFormat& statement) {
 
 void execute(SessionState& session, const Dim& statement) {
   for (const Dim::Variable& variable : statement.variables)
-    session.variables.insert_or_assign(text::lower(variable.name.text), initialValue(variable.type));
+    session.variables.declare(variable.name.text, initialValue(variable.type));
 }
 
 void execute(SessionState& session, const Undim& statement) {
-  for (const Name& name : statement.names) session.variables.erase(text::lower(name.text));
+  for (const Name& name : statement.names) session.variables.forget(name.text);
 }
 
 void execute(SessionState& session, const Assignment& statement) {
-  const auto variable = session.variables.find(text::lower(statement.name.text));
-  if (variable == session.variables.end())
+  if (session.variables.find(statement.name.text) == nullptr)
     throw LanguageError(statement.name.position, statement.name.text, "la variable no está declarada");
-  variable->second = statement.value->evaluate(session.scope);
+  session.variables.assign(statement.name.text, statement.value->evaluate(session.scope));
 }
 
 void execute(SessionState& session, const PassedOver& statement) {

@@ -10,8 +10,7 @@ namespace motor {
 
 Value SessionScope::name(const NameReference& reference) const {
   if (!reference.table().empty()) return read(bind(reference));
-  const auto variable = session_.variables.find(text::lower(reference.name()));
-  if (variable != session_.variables.end()) return variable->second;
+  if (const Value* variable = session_.variables.find(reference.name())) return *variable;
   if (text::equalsIgnoringCase(reference.name(), "Selection") || session_.tables.find(reference.name()))
     return reference.name();
   throw LanguageError(reference.position(), reference.name(), "no es una tabla abierta ni una variable");
@@ -31,7 +30,7 @@ Value SessionScope::call(const FunctionCall& function, std::span<const Value> ar
 }
 
 bool SessionScope::hides(const NameReference& constant) const {
-  return session_.variables.count(text::lower(constant.name())) != 0;
+  return session_.variables.find(constant.name()) != nullptr;
 }
 
 ColumnBinding SessionScope::bind(const NameReference& reference) const {

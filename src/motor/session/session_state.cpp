@@ -151,6 +151,7 @@ Point SessionState::point(const CoordinatePair& pair) const { return {number(pai
 
 void SessionState::run(const std::vector<Statement>& statements) {
   if (depth_ >= kDeepest) throw EngineError("demasiadas instrucciones que ejecutan otras");
+  if (depth_ == 0) budget = RunBudget();
   struct Deeper {
     int& depth;
     explicit Deeper(int& d) : depth(d) { ++depth; }
@@ -159,6 +160,7 @@ void SessionState::run(const std::vector<Statement>& statements) {
   for (const Statement& statement : statements) {
     if (ended) throw EngineError("la sesión ha terminado");
     try {
+      budget.spendStatement();
       std::visit([this](const auto& s) { execute(*this, s); }, statement);
     } catch (const EngineError& e) {
       throw LanguageError(positionOf(statement), firstWord(statement), e.what());

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -15,11 +14,13 @@
 #include "motor/session/map_window.h"
 #include "motor/session/open_tables.h"
 #include "motor/session/prepared_expression.h"
+#include "motor/session/run_budget.h"
 #include "motor/session/session.h"
 #include "motor/session/session_scope.h"
 #include "motor/session/table_files.h"
 #include "motor/session/text_cache.h"
 #include "motor/session/toolbox.h"
+#include "motor/session/variables.h"
 
 namespace motor {
 
@@ -62,13 +63,14 @@ class SessionState {
   std::string distanceUnit = "mi";
   std::string areaUnit = "sq mi";
   std::string paperUnit = "in";
-  std::map<std::string, Value> variables;  // by name in lower case
-  std::vector<SearchHit> hits;             // of the last SearchPoint
+  Variables variables;
+  std::vector<SearchHit> hits;  // of the last SearchPoint
   CommandEvent event;
   std::shared_ptr<platform::CallbackObject> callback;
   FunctionTable functions;
   SessionScope scope{*this};
   std::vector<std::filesystem::path> workspaceFolders;  // of the workspaces being read, the innermost last
+  RunBudget budget;                                     // of the text being run that no other runs
   bool ended = false;
 
   TextCache<std::vector<Statement>> programs;

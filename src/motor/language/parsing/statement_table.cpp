@@ -29,7 +29,7 @@ constexpr std::array kStatements = {
     StatementRule{"set shade", parseSetShade, "[Window id] layer | Prev With ...", shadeClauses},
     StatementRule{"add map", parseAddMap, "[Window id] [Auto] Layer table, ...", nullptr},
     StatementRule{"add column", parseAddColumn,
-                  "table (column [type]) Values value, ... | From table Set To value [Where column = column] [Dynamic]",
+                  "table (column [type]) Values value, ... | From table Set To value Where column = column [Dynamic]",
                   nullptr},
     StatementRule{"remove map", parseRemoveMap, "[Window id] Layer layer, ... [Interactive]", nullptr},
     StatementRule{"shade", parseShade, "[Window id] layer With value, ... [Ignore value, ...] kind [# ... #]",

@@ -4,7 +4,7 @@
 
 namespace motor {
 
-// Add Column t (column [type]) {Values v, ... | From s Set To e [Where a = b] [Dynamic]}: a temporary column.
+// Add Column t (column [type]) {Values v, ... | From s Set To e Where a = b [Dynamic]}: a temporary column.
 struct AddColumn {
   Position position;
   Name table;
