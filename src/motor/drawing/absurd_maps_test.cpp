@@ -204,6 +204,35 @@ TEST_F(AbsurdMaps, ThemesOfAnySize) {
   }
 }
 
+TEST_F(AbsurdMaps, ChartsAreNoLargerThanThePicture) {
+  const Layer base = small::layer({small::region({small::square(0, 0, 100, 100)}, kFill)}, {""});
+  const auto shaded = [&base](const std::string& words) {
+    return painted(
+        {small::theme(base, "shade 1 with " + words + " max size 1e300 units \"in\" at value 1e-300"), base});
+  };
+  const QImage pie = shaded("1 pie position above left border pen (1,1,0) style brush (2,65280)");
+  EXPECT_EQ(pie.pixel(2, 2), 0xFF00FF00) << "a larger one would reach the corner nowhere";
+  const QImage bar =
+      shaded("1, 2, 1 bar stacked width 40 units \"pt\" style brush (2,255), brush (2,65280), brush (2,255)");
+  EXPECT_EQ(bar.pixel(50, 50), 0xFF00FF00);
+  EXPECT_EQ(bar.pixel(50, 95), 0xFF0000FF) << "of a larger one only the middle would be seen";
+}
+
+TEST_F(AbsurdMaps, ThemesOfAnyNumberOfValues) {
+  const Layer base = small::squares(4, kFill);
+  for (const std::string kind : {"pie", "bar", "bar stacked"}) {
+    const auto shaded = [&](int values) {
+      std::string with = "Valor";
+      for (int i = 1; i < values; ++i) with += ",Valor";
+      const Layer theme = small::theme(base, "shade 1 with " + with + " " + kind + " max size 1e300");
+      return painted({theme, base});
+    };
+    EXPECT_NE(shaded(1000), painted({base})) << kind;
+    EXPECT_EQ(shaded(1001), painted({base})) << kind << ": too many to be drawn";
+    EXPECT_EQ(shaded(100'000), painted({base})) << kind;
+  }
+}
+
 TEST_F(AbsurdMaps, LegendsOfAnyLength) {
   const Layer base = small::squares(3, kFill);
   for (const std::string& text : {std::string(100'000, 'W'), std::string(100'000, ' ')}) {

@@ -17,8 +17,14 @@ constexpr double kPositions[][2] = {{0, 0}, {-1, -1}, {0, -1}, {1, -1}, {-1, 0},
 
 class ChartPainter {
  public:
-  ChartPainter(QPainter& painter, const ChartTheme& theme, std::span<const double> values, double devicePixelRatio)
-      : painter_(painter), theme_(theme), look_(theme.look()), values_(values), devicePixelRatio_(devicePixelRatio) {
+  ChartPainter(QPainter& painter, const ChartTheme& theme, std::span<const double> values, double mostSize,
+               double devicePixelRatio)
+      : painter_(painter),
+        theme_(theme),
+        look_(theme.look()),
+        values_(values),
+        mostSize_(mostSize),
+        devicePixelRatio_(devicePixelRatio) {
     const std::vector<QPen> strokes = penStrokes(look_.border);
     border_ = strokes.empty() ? QPen(Qt::NoPen) : strokes.front();
   }
@@ -32,6 +38,8 @@ class ChartPainter {
  private:
   [[nodiscard]] double part(std::size_t i) const { return std::isfinite(values_[i]) ? values_[i] : 0; }
 
+  [[nodiscard]] double sizeOf(double amount) const { return std::min(theme_.sizeOf(amount), mostSize_); }
+
   [[nodiscard]] QRectF boxAt(QPointF at, QSizeF size) const {
     const double* side = kPositions[std::clamp(look_.placement, 0, 8)];
     const QPointF centre = at + QPointF(side[0] * size.width() / 2, side[1] * size.height() / 2);
@@ -42,7 +50,7 @@ class ChartPainter {
 
   void paintPie(QPointF at) {
     const double sum = theme_.amountOf(values_);
-    const double size = theme_.sizeOf(sum);
+    const double size = sizeOf(sum);
     const QRectF box = boxAt(at, {size, size});
     const double turn = (look_.half ? kTurn / 2 : kTurn) * (look_.counterClockwise ? 1 : -1);
     double angle = look_.angle;
@@ -68,7 +76,7 @@ class ChartPainter {
 
   void paintStackedBar(QPointF at) {
     const double sum = theme_.amountOf(values_);
-    const QRectF box = boxAt(at, {look_.barWidth, theme_.sizeOf(sum)});
+    const QRectF box = boxAt(at, {look_.barWidth, sizeOf(sum)});
     paintFrame(box);
     double bottom = box.bottom();
     for (std::size_t i = 0; i < values_.size(); ++i) {
@@ -82,11 +90,11 @@ class ChartPainter {
 
   void paintBars(QPointF at) {
     const double amount = theme_.amountOf(values_);
-    const QRectF box = boxAt(at, {look_.barWidth * static_cast<double>(values_.size()), theme_.sizeOf(amount)});
+    const QRectF box = boxAt(at, {look_.barWidth * static_cast<double>(values_.size()), sizeOf(amount)});
     paintFrame(box);
     for (std::size_t i = 0; i < values_.size(); ++i) {
       if (part(i) == 0) continue;
-      const double tall = look_.fixed ? std::fabs(part(i)) / amount * box.height() : theme_.sizeOf(part(i));
+      const double tall = look_.fixed ? std::fabs(part(i)) / amount * box.height() : sizeOf(part(i));
       const double own = part(i) < 0 ? -tall : tall;
       useBrush(i);
       const QPointF foot(box.left() + static_cast<double>(i) * look_.barWidth, box.bottom());
@@ -98,18 +106,19 @@ class ChartPainter {
   const ChartTheme& theme_;
   const ChartLook& look_;
   std::span<const double> values_;
+  double mostSize_;
   double devicePixelRatio_;
   QPen border_;
 };
 
 }  // namespace
 
-void paintChart(QPainter& painter, const ChartTheme& theme, std::span<const double> values, QPointF at,
+void paintChart(QPainter& painter, const ChartTheme& theme, std::span<const double> values, QPointF at, double mostSize,
                 double devicePixelRatio) {
   const double amount = theme.amountOf(values);
   if (!(amount > 0) || !std::isfinite(amount)) return;
   painter.save();
-  ChartPainter(painter, theme, values, devicePixelRatio).paint(at);
+  ChartPainter(painter, theme, values, mostSize, devicePixelRatio).paint(at);
   painter.restore();
 }
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kDefaultSize = 36;  // pixels, of the largest chart
 constexpr double kMostSize = 2000;
+constexpr std::size_t kMostParts = 1000;
 constexpr double kDefaultBarWidth = 7;
 // Of parts that the statement gives no brush.
 constexpr Colour kPartColours[] = {0x3A87A0, 0xE0A458, 0x7A9E4F, 0xB5523B, 0x6C5B8E, 0x8C8C8C};
@@ -22,6 +23,7 @@ double bounded(double pixels) { return pixels > 0 ? std::min(pixels, kMostSize) 
 }  // namespace
 
 ChartTheme::ChartTheme(const Layer& layer, const ShadeChart& chart) : by_(chart.by) {
+  if (layer.theme->with.size() > kMostParts) throw EngineError("el tema tiene demasiados valores");
   const ThemeValues values(layer);
   readLook(chart, values, layer.theme->with.size());
   readValues(*layer.theme, values);

@@ -28,7 +28,8 @@ struct ChartLook {
 // A theme of pies or bars: a chart of several values on each object.
 class ChartTheme {
  public:
-  // Throws LanguageError or EngineError where its settings have no value. `layer` has the theme.
+  // Throws LanguageError or EngineError where its settings have no value, and EngineError for more than 1,000 values a
+  // chart. `layer` has the theme.
   ChartTheme(const Layer& layer, const ShadeChart& chart);
 
   [[nodiscard]] const ChartLook& look() const { return look_; }

@@ -79,8 +79,9 @@ void ThemePainter::paintSymbols(const Layer& layer, const SymbolTheme& theme) {
 }
 
 void ThemePainter::paintCharts(const Layer& layer, const ChartTheme& theme) {
+  const double diagonal = std::hypot(view_.rect().width(), view_.rect().height());
   forCentres(layer, theme.order(), theme.reach(), [&](std::uint32_t index, QPointF at) {
-    paintChart(painter_, theme, theme.valuesOf(index), at, devicePixelRatio_);
+    paintChart(painter_, theme, theme.valuesOf(index), at, diagonal, devicePixelRatio_);
   });
 }
 

@@ -7,6 +7,7 @@
 #include "motor/tables/select_columns.h"
 #include "motor/tables/select_join.h"
 #include "motor/tables/select_keys.h"
+#include "motor/tables/select_memory.h"
 #include "motor/tables/select_scope.h"
 #include "text/utf8.h"
 
@@ -110,13 +111,15 @@ class Selection {
 
   [[nodiscard]] std::size_t count() const { return rows_.front().size(); }
 
-  [[nodiscard]] std::vector<Value> evaluateAll(const Expression& expression) {
+  [[nodiscard]] std::vector<Value> evaluateAll(const Expression& expression, SelectMemory& memory) {
+    memory.addValues(count());
     std::vector<Value> values;
     values.reserve(count());
     for (std::size_t i = 0; i < count(); ++i) {
       for (std::size_t table = 0; table < rows_.size(); ++table) scope_.setRow(table, rows_[table][i]);
       if (!members_.empty()) scope_.setGroup(&members_[i]);
       values.push_back(expression.evaluate(scope_));
+      memory.addText(values.back());
     }
     scope_.setGroup(nullptr);
     return values;
@@ -131,7 +134,8 @@ class Selection {
     if (aggregateIn(*output.expression) != nullptr) {
       throw LanguageError(key.position, output.column.name, "no se puede agrupar por una función de grupo");
     }
-    return ordinalsOf(evaluateAll(*output.expression), true);
+    SelectMemory untilGrouped;
+    return ordinalsOf(evaluateAll(*output.expression, untilGrouped), true);
   }
 
   [[nodiscard]] Ordinals ordinalsOfBinding(const RowBinding& binding, bool grouping) const {
@@ -187,7 +191,7 @@ class Selection {
     computed_.resize(columns_.size());
     for (std::size_t i = 0; i < columns_.size(); ++i) {
       if (!columns_[i].expression) continue;
-      computed_[i] = evaluateAll(*columns_[i].expression);
+      computed_[i] = evaluateAll(*columns_[i].expression, memory_);
       columns_[i].column.type = isCount(columns_[i].expression) ? Column::Type::integer : typeOf(computed_[i]);
       for (const Value& value : computed_[i]) {
         const int width = static_cast<int>(text::length(value.toText()));
@@ -242,16 +246,20 @@ class Selection {
     }
   }
 
-  [[nodiscard]] ResultContents::Data dataOf(const OutputColumn& output, std::size_t firstSource) const {
+  [[nodiscard]] ResultContents::Data dataOf(const OutputColumn& output, std::size_t firstSource) {
     const ResultTable* result = tables_[output.table].result;
     if (result == nullptr) return ResultContents::SourceColumn{firstSource, output.index};
     const ResultContents::Data& inner = result->contents().data[output.index];
     if (const auto* from = std::get_if<ResultContents::SourceColumn>(&inner)) {
       return ResultContents::SourceColumn{firstSource + from->source, from->column};
     }
+    memory_.addValues(count());
     std::vector<Value> values;
     values.reserve(count());
-    for (const RowId row : rows_[output.table]) values.push_back(result->value(row, output.index));
+    for (const RowId row : rows_[output.table]) {
+      values.push_back(result->value(row, output.index));
+      memory_.addText(values.back());
+    }
     return values;
   }
 
@@ -262,6 +270,7 @@ class Selection {
   std::vector<std::vector<RowId>> rows_;      // by table; entries of equal index belong together
   std::vector<RowGroup> members_;             // by row, when there are aggregates: the rows of its group
   std::vector<std::vector<Value>> computed_;  // by column; empty for a table's own
+  SelectMemory memory_;                       // of the result
 };
 
 }  // namespace

@@ -24,7 +24,8 @@ struct SelectContext {
 };
 
 // The rows that a Select chooses. Throws LanguageError for names and expressions that mean nothing there, EngineError
-// for what the tables cannot give. `Into` and `NoSelect` are left to the caller.
+// for what the tables cannot give and for what would take too much time or memory. `Into` and `NoSelect` are left to
+// the caller.
 [[nodiscard]] ResultPtr select(const SelectStatement& statement, const SelectContext& context);
 
 }  // namespace motor

@@ -7,6 +7,7 @@
 #include "motor/language/comparison.h"
 #include "motor/language/expressions/operation.h"
 #include "motor/tables/select_filter.h"
+#include "motor/tables/select_memory.h"
 #include "motor/tables/select_object_link.h"
 
 namespace motor {
@@ -14,6 +15,8 @@ namespace motor {
 namespace {
 
 constexpr std::size_t kMaximumTuples = 5'000'000;
+// That conditions are evaluated for.
+constexpr std::size_t kMaximumTries = 12'000'000;
 
 using Tuples = std::vector<std::vector<RowId>>;
 
@@ -76,6 +79,7 @@ class Join {
     } else if (!links.objects.empty()) {
       addRelated(table, links);
     } else {
+      countTries(links, count() * rows.size());
       for (std::size_t i = 0; i < count(); ++i) addPassing(i, table, rows, links, 0);
     }
     tuples_ = std::move(next_);
@@ -111,13 +115,19 @@ class Join {
     return std::nullopt;
   }
 
+  void extend(std::string& key, const Value& value) {
+    const std::string more = joinKey(value);
+    keys_.add(more.size());
+    key += more;
+  }
+
   // The key of a row under all equalities; none when there is no value to compare.
-  std::optional<std::string> keyOfRow(const Links& links) const {
+  std::optional<std::string> keyOfRow(const Links& links) {
     std::string key;
     for (const EqualityLink& link : links.equalities) {
       const Value value = link.own->evaluate(scope_);
       if (value.isEmpty()) return std::nullopt;
-      key += joinKey(value);
+      extend(key, value);
     }
     return key;
   }
@@ -131,9 +141,11 @@ class Join {
     for (std::size_t i = 0; i < count(); ++i) {
       setTuple(i);
       std::string key;
-      for (const EqualityLink& link : links.equalities) key += joinKey(link.others->evaluate(scope_));
+      for (const EqualityLink& link : links.equalities) extend(key, link.others->evaluate(scope_));
       const auto matching = rowsByKey.find(key);
-      if (matching != rowsByKey.end()) addPassing(i, table, matching->second, links, 0);
+      if (matching == rowsByKey.end()) continue;
+      countTries(links, matching->second.size());
+      addPassing(i, table, matching->second, links, 0);
     }
   }
 
@@ -141,8 +153,16 @@ class Join {
   void addRelated(std::size_t table, Links& links) {
     ObjectLink& first = links.objects.front();
     for (std::size_t i = 0; i < count(); ++i) {
-      addPassing(i, table, first.rowsRelatedTo(tuples_[first.otherTable()][i]), links, 1);
+      const std::vector<RowId>& related = first.rowsRelatedTo(tuples_[first.otherTable()][i]);
+      countTries(links, related.size());
+      addPassing(i, table, related, links, 1);
     }
+  }
+
+  // Throws EngineError when conditions are to be evaluated too often.
+  void countTries(const Links& links, std::size_t count) {
+    if (!links.others.empty()) tries_ += count;
+    if (tries_ > kMaximumTries) throw EngineError("la unión de tablas tiene que probar demasiados pares de filas");
   }
 
   // Appends the tuple with each of the rows for which it passes the conditions between objects from `firstObject` on,
@@ -176,7 +196,9 @@ class Join {
   SelectScope& scope_;
   std::vector<Condition> conditions_;
   Tuples tuples_;
-  Tuples next_;  // with one more table
+  Tuples next_;            // with one more table
+  std::size_t tries_ = 0;  // of rows with tuples
+  SelectMemory keys_;      // of rows and of tuples
 };
 
 }  // namespace

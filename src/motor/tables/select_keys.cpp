@@ -5,9 +5,11 @@
 #include <limits>
 #include <numeric>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "motor/language/comparison.h"
+#include "motor/tables/select_memory.h"
 #include "text/collation.h"
 
 namespace motor {
@@ -21,13 +23,16 @@ class TextRanks {
  public:
   explicit TextRanks(bool grouping) : grouping_(grouping) {}
 
-  // Gives the text's key; `ranks` tells its place.
+  // Gives the text's key; `ranks` tells its place. The text must stay where it is.
   std::uint32_t add(const std::string& s) {
     const auto known = byText_.find(s);
     if (known != byText_.end()) return known->second;
     const std::uint32_t next = static_cast<std::uint32_t>(keys_.size());
     const std::uint32_t id = grouping_ ? byFolded_.try_emplace(foldedForEquality(s), next).first->second : next;
-    if (id == next) keys_.push_back(text::collationKey(s));
+    if (id == next) {
+      keys_.push_back(text::collationKey(s));
+      memory_.add(keys_.back().capacity());
+    }
     byText_.emplace(s, id);
     return id;
   }
@@ -48,8 +53,9 @@ class TextRanks {
  private:
   bool grouping_;
   std::vector<std::string> keys_;
-  std::unordered_map<std::string, std::uint32_t> byText_;
+  std::unordered_map<std::string_view, std::uint32_t> byText_;
   std::unordered_map<std::string, std::uint32_t> byFolded_;
+  SelectMemory memory_;  // of the keys
 };
 
 double ordinalOf(const Value& value) {

@@ -78,7 +78,31 @@ TEST_F(LargeSelectTest, joinsWhatPasses) {
   EXPECT_EQ(rowsOf(join + "grande.obj contains otra.obj and valor=otro"), kRows);
   // More than five million pairs of objects, few of which pass.
   EXPECT_EQ(rowsOf(join + "otro<500 and valor<10000 and valor+otro=10398"), 101);
-  EXPECT_NE(error(join + "valor>=otro").find("demasiado grande"), std::string::npos);
+}
+
+TEST_F(LargeSelectTest, refusesJoinsThatTakeTooLong) {
+  const std::string join = "select valor from grande, otra where ";
+  const std::string tooMany = "la unión de tablas tiene que probar demasiados pares de filas";
+  EXPECT_EQ(error(join + "valor<1000 and valor+otro>=0"), "el resultado de la unión de tablas es demasiado grande");
+  EXPECT_EQ(error(join + "valor+otro=1"), tooMany);
+  EXPECT_EQ(error(join + "valor*0=otro*0 and valor+otro=-1"), tooMany);
+  EXPECT_EQ(error(join + "valor<1000 and (grande.obj contains otra.obj or valor+otro=-1)"),
+            "hay que comparar demasiados pares de objetos: la condición no permite usar su índice");
+}
+
+TEST_F(LargeSelectTest, refusesToFillTheMemory) {
+  const std::string longText = "String$(30000,\"a\")";
+  const std::string keys = "String$(5000,\"a\")&valor \"c\"";  // a text's place in the order takes six times its size
+  session_.open("Hecha", session_.select("select String$(10000,\"a\") \"c\" from grande"));
+  for (const std::string& statement :
+       {"select " + longText + " from grande", "select count(*), " + longText + "&valor \"c\" from grande group by c",
+        "select " + keys + " from grande order by c", "select count(*), " + keys + " from grande group by c",
+        "select valor from grande, otra where " + longText + "&valor = " + longText + "&otro",
+        std::string("select c, c \"d\", c \"e\" from hecha")}) {
+    EXPECT_EQ(error(statement), "los valores que calcula la selección son demasiados o demasiado largos") << statement;
+  }
+  EXPECT_EQ(rowsOf("select " + keys + " from grande"), kRows);
+  EXPECT_EQ(rowsOf("select String$(1000,\"a\")&valor \"c\" from grande order by c"), kRows);
 }
 
 }  // namespace

@@ -14,6 +14,9 @@ namespace motor {
 
 namespace {
 
+// Of one Select, pair by pair.
+constexpr std::size_t kMaximumComparisons = 1'000'000;
+
 bool isObjectName(const std::string& name) {
   return text::equalsIgnoringCase(name, "obj") || text::equalsIgnoringCase(name, "object");
 }
@@ -128,6 +131,9 @@ Value SelectScope::call(const FunctionCall& function, std::span<const Value> arg
 
 bool SelectScope::related(SpatialRelation relation, const ObjectPtr& left, const ObjectPtr& right,
                           Position /*position*/) const {
+  if (++comparisons_ > kMaximumComparisons) {
+    throw EngineError("hay que comparar demasiados pares de objetos: la condición no permite usar su índice");
+  }
   return motor::related(relation, *left, *right);
 }
 

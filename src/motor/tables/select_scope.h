@@ -110,6 +110,7 @@ class SelectScope final : public Scope {
   SelectContext context_;
   mutable RowTuple rows_;
   const RowGroup* group_ = nullptr;
+  mutable std::size_t comparisons_ = 0;  // of objects, so far
   mutable std::unordered_map<const NameReference*, RowBinding> bindings_;
   mutable std::unordered_map<const MapObject*, ObjectPtr> transformed_;
   mutable std::unordered_map<const SelectStatement*, ValueSet> subselects_;
