@@ -173,8 +173,8 @@ QString PageBrowser::readHtml(const QUrl& address) {
   return page_.html;
 }
 
-// After a page has come: its ground, its margins, its place, and what was looked for. The toolkit still tells the source
-// before as its own.
+// After a page has come: its ground, its margins, its place, and what was looked for. The toolkit still tells the
+// source before as its own.
 void PageBrowser::settlePage(const QUrl& address) {
   const QString ground = page_.background.isValid()
                              ? QStringLiteral("QTextBrowser { background: %1 }").arg(page_.background.name())
