@@ -80,7 +80,7 @@ TEST_F(HarmfulWorkspaces, mayNotLeaveTheirFolder) {
 
 TEST_F(HarmfulWorkspaces, mayNotUseDevices) {
   for (const char* name : {"CON", "nul", "Aux.tab", "LPT1", "com9.tab", "PRN:", "..\\NUL", "C:\\CON\\x", "\\\\.\\COM1",
-                           "\\\\servidor\\datos\\x"}) {
+                           "LPT1 .tab", "con  ", "CONIN$", "conout$.tab", "\\\\servidor\\datos\\x"}) {
     EXPECT_NE(answer("Open Table \"" + std::string(name) + "\"\n").find("ruta no permitida"), std::string::npos)
         << name;
   }

@@ -14,12 +14,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<const char*, 22> kDevices{"con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4",
-                                               "com5", "com6", "com7", "com8", "com9", "lpt1", "lpt2", "lpt3",
-                                               "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
+constexpr std::array<const char*, 24> kDevices{"con",  "prn",  "aux",  "nul",  "com1", "com2", "com3",   "com4",
+                                               "com5", "com6", "com7", "com8", "com9", "lpt1", "lpt2",   "lpt3",
+                                               "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9", "conin$", "conout$"};
 
+// Whatever the ending is, and blanks before it.
 bool isDevice(const std::string& component) {
-  const std::string stem = text::lower(component.substr(0, component.find_first_of(".:")));
+  std::string stem = text::lower(component.substr(0, component.find_first_of(".:")));
+  stem.erase(stem.find_last_not_of(' ') + 1);
   return std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end();
 }
 
