@@ -45,10 +45,19 @@ void uninstallAll() {
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, paths.c_str());
 }
 
+constexpr int kTries = 500;
+constexpr auto kBlink = std::chrono::milliseconds(20);
+
+// A copy that was made just now cannot be started until the system knows what it is.
+void awaitProgram(const fs::path& path) {
+  DWORD kind = 0;
+  for (int tries = 0; tries < kTries && GetBinaryTypeW(path.c_str(), &kind) == FALSE; ++tries) {
+    std::this_thread::sleep_for(kBlink);
+  }
+}
+
 // A program that was started just now cannot be removed until it has ended. A folder that holds something else stays.
 void removeSoon(const fs::path& path) {
-  constexpr int kTries = 500;
-  constexpr auto kBlink = std::chrono::milliseconds(20);
   std::error_code problem;
   for (int tries = 0; tries < kTries && fs::is_regular_file(path, problem) && !fs::remove(path, problem); ++tries) {
     std::this_thread::sleep_for(kBlink);
@@ -87,6 +96,7 @@ void Stage::putFile(const std::string& path) {
   removeFile(path);  // it may be there under another case
   if (isProgram(path)) {
     fs::copy_file(viewer_, file);
+    awaitProgram(file);
   } else {
     std::ofstream(file, std::ios::binary) << '\n';
   }
