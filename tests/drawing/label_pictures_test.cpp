@@ -67,10 +67,10 @@ QImage regions(const Font& letters) {
 }
 
 Layer rivers() {
-  small::Ring wave;
+  Ring wave;
   for (int i = 0; i <= 120; ++i) wave.push_back({5 + i * 3.3, 210 + 40 * std::sin(i / 14.0) + 25 * std::sin(i / 40.0)});
-  const small::Ring straight{{30, 20}, {200, 110}, {390, 130}};
-  const small::Ring upright{{340, 300}, {352, 160}, {340, 20}};
+  const Ring straight{{30, 20}, {200, 110}, {390, 130}};
+  const Ring upright{{340, 300}, {352, 160}, {340, 20}};
   const Pen blue{2, 2, 0x5B8DB8};
   return small::layer({small::line(wave, blue), small::line(straight, blue), small::line(upright, blue)},
                       {"Río Grande de la Sierra", "Canal del Norte", "Arroyo Seco"});

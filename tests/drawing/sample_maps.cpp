@@ -7,8 +7,6 @@ namespace motor::sample {
 
 namespace {
 
-using small::Ring;
-
 constexpr int kColumns = 4;
 constexpr int kRows = 3;
 constexpr double kSide = 100;                                     // metres, of a zone

@@ -45,7 +45,7 @@ ObjectPtr triangle(const Pen& pen) { return small::region({{{10, 10}, {90, 10}, 
 
 // One object of each kind at a place.
 std::vector<ObjectPtr> objectsAt(double x, double y) {
-  MapObject text = small::shape(MapObject::Kind::text, {{{x, y}}});
+  MapObject text = objectOf(MapObject::Kind::text, {{{x, y}}});
   text.text = "Texto";
   text.lineHeight = 10;
   text.font.size = 0;

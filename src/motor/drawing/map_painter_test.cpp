@@ -132,7 +132,7 @@ TEST(MapPainter, PaintsTheObjectsOfALayerInTheirOrder) {
 }
 
 TEST(MapPainter, PaintsAnObjectThatManyRowsShareOnce) {
-  const std::vector<small::Ring> triangle{{{10, 13}, {83, 21}, {47, 90}, {10, 13}}};
+  const std::vector<Ring> triangle{{{10, 13}, {83, 21}, {47, 90}, {10, 13}}};
   const auto object = [&] { return small::region(triangle, small::kNoBrush, Pen{1, 2, 0}); };
   const ObjectPtr shared = object();
   const QImage once = painted({small::layer({shared})});
@@ -142,8 +142,8 @@ TEST(MapPainter, PaintsAnObjectThatManyRowsShareOnce) {
 
 // Two neighbours with a ragged common border, simplified to a twentieth of its points: no ground may show between them.
 TEST(MapPainter, NeighboursLeaveNoSlivers) {
-  small::Ring west{{0, 0}};
-  small::Ring east{{100, 0}};
+  Ring west{{0, 0}};
+  Ring east{{100, 0}};
   for (int i = 0; i <= 4000; ++i) {
     const Point p{50 + 6 * std::sin(i / 90.0) + 0.6 * std::sin(i / 1.7), i / 40.0};
     west.push_back(p);
@@ -192,7 +192,7 @@ TEST(MapPainter, DrawsPointsWithTheirSymbols) {
 }
 
 TEST(MapPainter, WritesTextObjectsAtTheirCorner) {
-  MapObject text = small::shape(MapObject::Kind::text, {{{10, 40}}});
+  MapObject text = objectOf(MapObject::Kind::text, {{{10, 40}}});
   text.text = "MM";
   text.lineHeight = 20;
   text.bounds = {10, 40, 90, 60};
@@ -205,7 +205,7 @@ TEST(MapPainter, WritesTextObjectsAtTheirCorner) {
 
 TEST(MapPainter, JustifiesTheLinesOfTextObjects) {
   const auto lowerLine = [](TextJustify justify, float spacing) {
-    MapObject text = small::shape(MapObject::Kind::text, {{{10, 20}}});
+    MapObject text = objectOf(MapObject::Kind::text, {{{10, 20}}});
     text.text = "MMM\nM";
     text.lineHeight = 20;
     text.lineSpacing = spacing;

@@ -14,8 +14,8 @@ constexpr double kZooms[] = {1.3, 4, 17, 60, 100, 130.7, 400, 1'700, 9'000};  //
 constexpr double kRatios[] = {1, 1.5, 2};
 
 // Three and a half thousand points from bottom to top, whose wiggles are seen at one zoom or another.
-small::Ring border() {
-  small::Ring points;
+Ring border() {
+  Ring points;
   for (int i = 0; i <= 3500; ++i) {
     const double y = -2000 + 4000.0 * i / 3500;
     points.push_back({50 + 300 * std::sin(y / 700) + 6 * std::sin(y / 9) + 0.6 * std::sin(i * 1.7), y});
@@ -24,7 +24,7 @@ small::Ring border() {
 }
 
 ObjectPtr besideBorder(double x, const Brush& brush) {
-  small::Ring ring = border();
+  Ring ring = border();
   ring.push_back({x, 2000});
   ring.push_back({x, -2000});
   ring.push_back(ring.front());

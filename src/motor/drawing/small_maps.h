@@ -7,6 +7,7 @@
 
 #include "motor/map/map.h"
 #include "motor/tables/base_table.h"
+#include "motor/tables/testing_regions.h"
 
 // Maps for tests: 100 by 100 pixels on a metre grid, one metre a pixel, the lower left corner at the origin.
 namespace motor::small {
@@ -17,38 +18,25 @@ inline const Colour kBlue = 0x0000FF;
 inline const Pen kNoPen{1, 1, 0};
 inline const Brush kNoBrush{1, 0, kTransparent};
 
-using Ring = std::vector<Point>;
-
 inline Ring square(double minX, double minY, double maxX, double maxY) {
   return {{minX, minY}, {maxX, minY}, {maxX, maxY}, {minX, maxY}, {minX, minY}};
 }
 
-inline MapObject shape(MapObject::Kind kind, const std::vector<Ring>& parts) {
-  MapObject object;
-  object.kind = kind;
-  for (const Ring& part : parts) {
-    object.parts.push_back(static_cast<std::uint32_t>(object.points.size()));
-    object.points.insert(object.points.end(), part.begin(), part.end());
-  }
-  for (const Point& p : object.points) object.bounds.add(p);
-  return object;
-}
-
 inline ObjectPtr region(const std::vector<Ring>& rings, const Brush& brush, const Pen& pen = kNoPen) {
-  MapObject object = shape(MapObject::Kind::region, rings);
+  MapObject object = objectOf(MapObject::Kind::region, rings);
   object.brush = brush;
   object.pen = pen;
   return std::make_shared<MapObject>(std::move(object));
 }
 
 inline ObjectPtr line(const Ring& points, const Pen& pen) {
-  MapObject object = shape(MapObject::Kind::polyline, {points});
+  MapObject object = objectOf(MapObject::Kind::polyline, {points});
   object.pen = pen;
   return std::make_shared<MapObject>(std::move(object));
 }
 
 inline ObjectPtr point(Point at, const Symbol& symbol) {
-  MapObject object = shape(MapObject::Kind::point, {{at}});
+  MapObject object = objectOf(MapObject::Kind::point, {{at}});
   object.symbol = symbol;
   return std::make_shared<MapObject>(std::move(object));
 }
